@@ -1,0 +1,29 @@
+# Warnings and sanitizers for every target of the project, and the shape of a floor.
+
+if(MSVC)
+    add_compile_options(/W4 /utf-8)
+else()
+    add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor)
+endif()
+
+if(CELLORA_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+# cellora_add_floor(NAME FLOORS_BELOW...): the library cellora_NAME from the sources of this folder.
+# Headers are included by their floor ("core/cell.h"), from a folder that holds links to this floor
+# and the floors below only.
+function(cellora_add_floor name)
+    file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp"
+                                        "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+    add_library(cellora_${name} STATIC ${sources})
+    set(headers "${CMAKE_BINARY_DIR}/floors/${name}")
+    file(MAKE_DIRECTORY "${headers}")
+    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${headers}/${name}" SYMBOLIC COPY_ON_ERROR)
+    target_include_directories(cellora_${name} PUBLIC "${headers}")
+    foreach(below IN LISTS ARGN)
+        target_link_libraries(cellora_${name} PUBLIC cellora_${below})
+    endforeach()
+endfunction()

@@ -1,0 +1,38 @@
+# Installs Debian packages that are missing. Sourced by ./run and ./test.
+
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 fonts-liberation2)
+test_packages=(libgtest-dev xvfb xauth)
+
+# install_missing PACKAGE...: names what it installs; silent when nothing is missing.
+install_missing() {
+    local missing=() package
+    for package in "$@"; do
+        if [[ $(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) != installed ]]; then
+            missing+=("$package")
+        fi
+    done
+    if ((${#missing[@]} == 0)); then
+        return
+    fi
+    echo "Installing from Debian: ${missing[*]}"
+    local as_root=()
+    if ((EUID != 0)); then
+        as_root=(sudo)
+    fi
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET: configures where needed and builds; shows the output only when it fails.
+build() {
+    local log
+    log=$(mktemp)
+    echo "Building ($1)"
+    if ! { cmake --preset "$1" && cmake --build --preset "$1"; } >"$log" 2>&1; then
+        cat "$log"
+        rm -f "$log"
+        return 1
+    fi
+    rm -f "$log"
+}

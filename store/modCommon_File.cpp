@@ -1,0 +1,50 @@
+#include "store/modCommon_File.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace cellora {
+
+namespace {
+
+std::filesystem::file_status GetStatus(const std::string& strPath) {
+    // The system would silently take a path up to its first zero byte.
+    if (strPath.find('\0') != std::string::npos) {
+        return std::filesystem::file_status(std::filesystem::file_type::not_found);
+    }
+    try {
+        std::error_code error;
+        return std::filesystem::status(std::u8string(strPath.begin(), strPath.end()), error);
+    } catch (const std::system_error&) {
+        // Where paths are not bytes, text that is not UTF-8 cannot be converted.
+        return std::filesystem::file_status(std::filesystem::file_type::not_found);
+    }
+}
+
+} // namespace
+
+bool FileExists(std::string strPath) {
+    const std::filesystem::file_status status = GetStatus(strPath);
+    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+bool PathExists(std::string strPath) {
+    return std::filesystem::exists(GetStatus(strPath));
+}
+
+std::string GetFolderFromPath(std::string strPath) {
+    std::size_t intLast = strPath.rfind('/');
+    if (intLast == std::string::npos) {
+        intLast = strPath.rfind('\\');
+    }
+    return intLast == std::string::npos ? std::string() : strPath.substr(0, intLast + 1);
+}
+
+std::string JoinPath(const std::string& strFolder, const std::string& strName) {
+    if (GetFolderFromPath(strFolder) == strFolder) {
+        return strFolder + strName;
+    }
+    return strFolder + "/" + strName;
+}
+
+} // namespace cellora

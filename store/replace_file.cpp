@@ -1,0 +1,81 @@
+#include "store/replace_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSaveFile>
+#include <QString>
+
+#include <chrono>
+#include <thread>
+#include <utility>
+
+namespace cellora {
+
+namespace {
+
+// A write on a full disk may stop short without an error; only going on with the rest tells.
+bool WriteAll(QSaveFile& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const qint64 lngWritten = file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        if (lngWritten <= 0) {
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(lngWritten));
+    }
+    return true;
+}
+
+} // namespace
+
+std::optional<std::string> ReplaceFile(const std::string& strPath, std::string_view bytes) {
+    QSaveFile file(QString::fromStdString(strPath));
+    file.setDirectWriteFallback(false);
+    // Unbuffered, because a short write of the buffer would go unnoticed.
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteAll(file, bytes) &&
+        file.commit()) {
+        return std::nullopt;
+    }
+    return "\"" + strPath + "\" could not be written: " + file.errorString().toStdString() + ".";
+}
+
+std::optional<std::string> ReadWholeFile(const std::string& strPath, std::size_t lngMaxBytes) {
+    QFile file(QString::fromStdString(strPath));
+    // Opening a pipe or a device could wait for ever.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) ||
+        std::cmp_greater(file.size(), lngMaxBytes)) {
+        return std::nullopt;
+    }
+    const QByteArray bytes = file.readAll();
+    // The file may have grown since its size was asked.
+    if (file.error() != QFileDevice::NoError || std::cmp_greater(bytes.size(), lngMaxBytes)) {
+        return std::nullopt;
+    }
+    return bytes.toStdString();
+}
+
+struct FileLock::Impl {
+    explicit Impl(const std::string& strPath) : lock(QString::fromStdString(strPath + ".lock")) {}
+
+    QLockFile lock;
+};
+
+FileLock::FileLock(const std::string& strPath) : m_impl(std::make_unique<Impl>(strPath)) {}
+
+FileLock::~FileLock() = default;
+
+bool FileLock::TryLock(int msTimeout) {
+    using Clock = std::chrono::steady_clock;
+    const Clock::time_point deadline = Clock::now() + std::chrono::milliseconds(msTimeout);
+    // QLockFile's own waiting doubles its pauses up to seconds, which starves a copy of the program
+    // beside one that takes the lock often.
+    while (!m_impl->lock.tryLock(0)) {
+        if (m_impl->lock.error() != QLockFile::LockFailedError || Clock::now() >= deadline) {
+            return false;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return true;
+}
+
+} // namespace cellora
