@@ -1,0 +1,95 @@
+#include "play/entry.h"
+
+#include <string>
+
+#include "play/check.h"
+#include "play/cursor.h"
+#include "play/notes.h"
+#include "play/selector.h"
+
+namespace cellora {
+
+namespace {
+
+struct KeyAction {
+    std::int16_t intKeyCode;
+    void (*fnAction)(Game&);
+};
+
+constexpr KeyAction aKeyActions[] = {
+    {intKeyBackspace, DoCellClear}, {intKeySpace, DoCellClear}, {intKeyDelete, DoCellClear},
+    {intKeyLeft, CursorLeft},       {intKeyUp, CursorUp},       {intKeyRight, CursorRight},
+    {intKeyDown, CursorDown},
+};
+
+/// The digit 1 to 9 of a key, 0 for every other key.
+int GetKeyDigit(std::int16_t intKeyCode) {
+    for (const std::int16_t intFirst : {intKeyDigit1, intKeyKeypad1}) {
+        if (intKeyCode >= intFirst && intKeyCode < intFirst + 9)
+            return intKeyCode - intFirst + 1;
+    }
+    return 0;
+}
+
+void DoKeyAction(Game& game, std::int16_t intKeyCode) {
+    for (const KeyAction& action : aKeyActions) {
+        if (action.intKeyCode == intKeyCode)
+            action.fnAction(game);
+    }
+    if (GetKeyDigit(intKeyCode) != 0)
+        DoCellEntry(game, intKeyCode);
+}
+
+void PlaceSelectedNumber(Game& game, Cell& cell) {
+    cell.strNotes.clear();
+    cell.strEntry =
+        game.intSelectedNumber == intEraser ? "" : std::to_string(game.intSelectedNumber);
+    PerformCellCheck(game);
+    game.blnGameChanged = true;
+}
+
+} // namespace
+
+void CellClick(Game& game, int intIndex, MouseButton button) {
+    MoveCursor(game, intIndex);
+    if (button == MouseButton::Right) {
+        ShowCellPopup(game);
+        return;
+    }
+    Cell& cell = game.cells[intIndex];
+    if (game.mnuNumberSelector.blnChecked && !cell.blnGiven)
+        PlaceSelectedNumber(game, cell);
+    RestartTimer(game.desktop, Timer::tmrCellWait);
+}
+
+void DoKeyDown(Game& game, std::int16_t intKeyCode) {
+    if (!game.picGrid.blnVisible || !game.picGrid.blnEnabled)
+        return;
+    DoKeyAction(game, intKeyCode);
+    DrawCursor(game);
+    PerformCellCheck(game);
+    RestartTimer(game.desktop, Timer::tmrCellWait);
+}
+
+void DoCellEntry(Game& game, std::int16_t intKeyCode) {
+    Cell& cell = game.cells[game.intCursorCell];
+    if (!cell.blnGiven) {
+        const int intDigit = GetKeyDigit(intKeyCode);
+        game.blnGameChanged = true;
+        cell.strNotes.clear();
+        cell.strEntry = std::to_string(intDigit);
+        if (game.picButtons.blnVisible)
+            DoButtonClick(game, intDigit);
+    }
+    RestartTimer(game.desktop, Timer::tmrCellWait);
+}
+
+void DoCellClear(Game& game) {
+    Cell& cell = game.cells[game.intCursorCell];
+    cell.strEntry.clear();
+    cell.strNotes.clear();
+    PerformCellCheck(game);
+    DoButtonClick(game, intEraser);
+}
+
+} // namespace cellora
