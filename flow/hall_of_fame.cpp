@@ -1,0 +1,222 @@
+#include "flow/hall_of_fame.h"
+
+#include <charconv>
+#include <memory>
+#include <vector>
+
+#include "core/levels.h"
+#include "core/text.h"
+#include "flow/clock.h"
+#include "store/modCommon_File.h"
+#include "store/replace_file.h"
+
+namespace cellora {
+
+namespace {
+
+constexpr std::size_t intMaxFileSize = std::size_t{1} << 20U;
+constexpr int intLinesPerEntry = 4;
+constexpr int intLinesPerLevel = 1 + 10 * intLinesPerEntry;
+constexpr int intLockMilliseconds = 5000;
+
+using Lines = std::vector<std::string_view>;
+using HallOfFame = Numbered<LevelEntries, intLevelCount>;
+
+std::string GetFilePath(const Game& game) {
+    return JoinPath(game.strProgramFolder, std::string(strHallOfFameFileName));
+}
+
+/// The file's lines without their ends; a text after the last line end counts as a line.
+Lines SplitLines(std::string_view strBytes) {
+    Lines lines;
+    while (!strBytes.empty()) {
+        const auto intEnd = strBytes.find('\n');
+        std::string_view strLine = strBytes.substr(0, intEnd);
+        if (strLine.ends_with('\r'))
+            strLine.remove_suffix(1);
+        lines.push_back(strLine);
+        strBytes.remove_prefix(intEnd == std::string_view::npos ? strBytes.size() : intEnd + 1);
+    }
+    return lines;
+}
+
+bool ReadNumber(std::string_view strLine, std::int32_t& lngNumber) {
+    strLine = Trim(strLine);
+    std::int32_t lngRead = 0;
+    const char* const pEnd = strLine.data() + strLine.size();
+    const auto result = std::from_chars(strLine.data(), pEnd, lngRead);
+    if (result.ec != std::errc{} || result.ptr != pEnd)
+        return false;
+    lngNumber = lngRead;
+    return true;
+}
+
+/// The name without any quotes, which could not be written back; true when it stood between the two
+/// of a name in form.
+bool ReadName(std::string_view strLine, std::string& strName) {
+    const bool blnQuoted = strLine.starts_with('"') && strLine.ends_with('"');
+    strName = strLine;
+    return std::erase(strName, '"') == 2 && blnQuoted;
+}
+
+/// Takes what the lines of one level give; true when all of it was in form.
+bool ReadLevel(const Lines& lines, int intLevel, LevelEntries& entries) {
+    auto intLine = static_cast<std::size_t>((intLevel - 1) * intLinesPerLevel);
+    std::int32_t lngLevel = 0;
+    bool blnInForm =
+        intLine < lines.size() && ReadNumber(lines[intLine], lngLevel) && lngLevel == intLevel;
+    ++intLine;
+    for (HallOfFameEntry& entry : entries) {
+        if (intLine < lines.size())
+            blnInForm &= ReadName(lines[intLine], entry.strName);
+        ++intLine;
+        for (std::int32_t* const pNumber :
+             {&entry.lngHours, &entry.lngMinutes, &entry.lngSeconds}) {
+            blnInForm &= intLine < lines.size() && ReadNumber(lines[intLine], *pNumber);
+            ++intLine;
+        }
+    }
+    return blnInForm;
+}
+
+bool ReadLevels(std::string_view strBytes, HallOfFame& hallOfFame) {
+    const Lines lines = SplitLines(strBytes);
+    bool blnInForm = lines.size() == static_cast<std::size_t>(intLevelCount * intLinesPerLevel);
+    for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
+        blnInForm &= ReadLevel(lines, intLevel, hallOfFame[intLevel]);
+    return blnInForm;
+}
+
+std::string FormatHallOfFame(const HallOfFame& hallOfFame) {
+    std::string strBytes;
+    const auto AddLine = [&strBytes](const std::string& strLine) {
+        strBytes.append(strLine).append(strLineBreak);
+    };
+    for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel) {
+        AddLine(std::to_string(intLevel));
+        for (const HallOfFameEntry& entry : hallOfFame[intLevel]) {
+            AddLine('"' + entry.strName + '"');
+            for (const std::int32_t lngNumber :
+                 {entry.lngHours, entry.lngMinutes, entry.lngSeconds})
+                AddLine(std::to_string(lngNumber));
+        }
+    }
+    return strBytes;
+}
+
+std::int16_t FindRank(const Game& game, const LevelEntries& entries) {
+    const std::int64_t lngCurrent =
+        GetTimeInSeconds(game.lngHours, game.lngMinutes, game.lngSeconds);
+    std::int16_t intRank = intNoRank;
+    for (std::int16_t i = 10; i >= 1; --i) {
+        const HallOfFameEntry& entry = entries[i];
+        if (lngCurrent <= GetTimeInSeconds(entry.lngHours, entry.lngMinutes, entry.lngSeconds))
+            intRank = i;
+    }
+    return intRank;
+}
+
+/// The entries from that rank on move down; the tenth drops out.
+void InsertEntry(LevelEntries& entries, int intRank, HallOfFameEntry entry) {
+    for (int i = intRank; i <= LevelEntries::size(); ++i)
+        std::swap(entries[i], entry);
+}
+
+/// Reads the file, keeps a copy of a damaged one, and replaces it by what `fnEdit` makes of it,
+/// all inside the lock.
+template <typename Edit>
+std::optional<std::string> RewriteHallOfFame(const Game& game, Edit fnEdit) {
+    const std::string strFile = GetFilePath(game);
+    FileLock lock(strFile);
+    if (!lock.TryLock(intLockMilliseconds))
+        return "Another copy of the program, or a folder that cannot be written, keeps the file "
+               "\"hof.clh\" locked.";
+    HallOfFame hallOfFame;
+    if (PathExists(strFile)) {
+        const auto bytes = ReadWholeFile(strFile, intMaxFileSize);
+        if (!bytes)
+            return "The file \"hof.clh\" cannot be read.";
+        if (!ReadLevels(*bytes, hallOfFame)) {
+            if (auto reason = ReplaceFile(strFile + ".damaged", *bytes))
+                return reason;
+        }
+    }
+    fnEdit(hallOfFame);
+    return ReplaceFile(strFile, FormatHallOfFame(hallOfFame));
+}
+
+HallOfFame MakeEmptyHallOfFame() {
+    HallOfFame hallOfFame;
+    for (LevelEntries& entries : hallOfFame)
+        entries.fill({std::string(strNoName), 99, 99, 99});
+    return hallOfFame;
+}
+
+} // namespace
+
+void ReadHallOfFame(const Game& game, int intLevel, LevelEntries& entries) {
+    if (intLevel < 1 || intLevel > intLevelCount)
+        return;
+    if (const auto bytes = ReadWholeFile(GetFilePath(game), intMaxFileSize))
+        ReadLevel(SplitLines(*bytes), intLevel, entries);
+}
+
+std::int16_t GetCurrentLevel(const Game& game) {
+    return GetLevelNumber(game.lblLevel);
+}
+
+std::int16_t GetRank(const Game& game) {
+    LevelEntries entries;
+    ReadHallOfFame(game, GetCurrentLevel(game), entries);
+    return FindRank(game, entries);
+}
+
+std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::string& strName) {
+    return RewriteHallOfFame(game, [&](HallOfFame& hallOfFame) {
+        const int intLevel = GetCurrentLevel(game);
+        if (intLevel < 1 || intLevel > intLevelCount)
+            return;
+        LevelEntries& entries = hallOfFame[intLevel];
+        InsertEntry(entries, FindRank(game, entries),
+                    {strName, game.lngHours, game.lngMinutes, game.lngSeconds});
+    });
+}
+
+std::optional<std::string> ResetHallOfFame(const Game& game) {
+    return RewriteHallOfFame(game,
+                             [](HallOfFame& hallOfFame) { hallOfFame = MakeEmptyHallOfFame(); });
+}
+
+std::int16_t GetHighestRecordedLevel(const Game& game) {
+    std::int16_t intHighest = 0;
+    for (std::int16_t intLevel = 1; intLevel <= intLevelCount; ++intLevel) {
+        LevelEntries entries;
+        ReadHallOfFame(game, intLevel, entries);
+        if (Trim(entries[1].strName) != strNoName)
+            intHighest = intLevel;
+    }
+    return intHighest;
+}
+
+std::string FormatEntryTime(const HallOfFameEntry& entry) {
+    const auto LastTwo = [](std::int32_t lngNumber) {
+        const std::string strNumber = "00" + std::to_string(lngNumber);
+        return strNumber.substr(strNumber.size() - 2);
+    };
+    return LastTwo(entry.lngHours) + ':' + LastTwo(entry.lngMinutes) + ':' +
+           LastTwo(entry.lngSeconds);
+}
+
+std::string FormatEmptyHallOfFame() {
+    return FormatHallOfFame(MakeEmptyHallOfFame());
+}
+
+void ShowHallOfFameError(Game& game, const std::string& strReason) {
+    game.desktop.Beep();
+    game.desktop.ShowMessageBox({.strTitle = "Hall of Fame",
+                                 .strText = strReason,
+                                 .icon = MessageIcon::Exclamation,
+                                 .buttons = MessageButtons::Ok});
+}
+
+} // namespace cellora

@@ -1,0 +1,199 @@
+#include "store/saved_game.h"
+
+#include <cassert>
+#include <charconv>
+#include <concepts>
+#include <system_error>
+#include <utility>
+
+namespace cellora {
+
+namespace {
+
+constexpr std::string_view strTrue = "#TRUE#";
+constexpr std::string_view strFalse = "#FALSE#";
+constexpr std::size_t lngUsualBytes = 4096;
+
+// A value of the record and its place in the game.
+template <typename Value>
+struct Field {
+    Value SavedGame::*saved;
+    Value Game::*played;
+};
+
+// In the order of their lines.
+constexpr Field<std::int32_t> aCounters[] = {
+    {&SavedGame::lngHours, &Game::lngHours},
+    {&SavedGame::lngMinutes, &Game::lngMinutes},
+    {&SavedGame::lngSeconds, &Game::lngSeconds},
+};
+constexpr Field<std::string> aCaptions[] = {
+    {&SavedGame::strLevel, &Game::lblLevel},
+    {&SavedGame::strVisibleCells, &Game::lblVisibleCells},
+    {&SavedGame::strSolvedByYou, &Game::lblSolvedByYou},
+    {&SavedGame::strCellsToSolve, &Game::lblCellsToSolve},
+    {&SavedGame::strIncorrectCells, &Game::lblIncorrectCells},
+};
+constexpr std::string SavedCell::*aCellTexts[] = {&SavedCell::strSolution, &SavedCell::strEntry,
+                                                  &SavedCell::strNotes};
+
+class Writer final {
+public:
+    Writer() { m_bytes.reserve(lngUsualBytes); }
+
+    void Number(std::int32_t lngNumber) { Line(std::to_string(lngNumber)); }
+
+    void Text(const std::string& strText) {
+        assert(strText.find('\n') == std::string::npos);
+        Line('"' + strText + '"');
+    }
+
+    void Truth(bool blnValue) { Line(blnValue ? strTrue : strFalse); }
+
+    std::string Take() { return std::move(m_bytes); }
+
+private:
+    void Line(std::string_view strLine) { m_bytes.append(strLine).append(strLineBreak); }
+
+    std::string m_bytes;
+};
+
+std::optional<std::string_view> DropQuotes(std::string_view strLine) {
+    if (strLine.size() < 2 || !strLine.starts_with('"') || !strLine.ends_with('"'))
+        return std::nullopt;
+    return strLine.substr(1, strLine.size() - 2);
+}
+
+template <std::integral Whole>
+bool ReadWhole(std::string_view strText, Whole& number) {
+    const char* const end = strText.data() + strText.size();
+    const auto result = std::from_chars(strText.data(), end, number);
+    return result.ec == std::errc{} && result.ptr == end;
+}
+
+// Takes one value per line. Each routine is false when the next line does not hold such a value.
+class Reader final {
+public:
+    explicit Reader(std::string_view bytes) : m_rest(bytes) {}
+
+    bool Number(std::int32_t& lngNumber) { return ReadWhole(NextLine(), lngNumber); }
+
+    bool CellNumber() {
+        const std::string_view strLine = NextLine();
+        std::int16_t intIgnored = 0;
+        return ReadWhole(DropQuotes(strLine).value_or(strLine), intIgnored);
+    }
+
+    bool Text(std::string& strText) {
+        const auto strQuoted = DropQuotes(NextLine());
+        strText = strQuoted.value_or(std::string_view{});
+        return strQuoted.has_value();
+    }
+
+    bool Truth(bool& blnValue) {
+        const std::string_view strLine = NextLine();
+        blnValue = strLine == strTrue;
+        return blnValue || strLine == strFalse;
+    }
+
+    bool IsAtEnd() const { return m_rest.find_first_not_of(strLineBreak) == m_rest.npos; }
+
+private:
+    // Empty at the end of the file, which is no value either.
+    std::string_view NextLine() {
+        const std::size_t lngEnd = m_rest.find('\n');
+        std::string_view strLine = m_rest.substr(0, lngEnd);
+        m_rest.remove_prefix(lngEnd == m_rest.npos ? m_rest.size() : lngEnd + 1);
+        if (strLine.ends_with('\r'))
+            strLine.remove_suffix(1);
+        return strLine;
+    }
+
+    std::string_view m_rest;
+};
+
+bool ReadCell(Reader& reader, SavedCell& cell) {
+    if (!reader.CellNumber() || !reader.Truth(cell.blnGiven))
+        return false;
+    for (const auto text : aCellTexts) {
+        if (!reader.Text(cell.*text))
+            return false;
+    }
+    return true;
+}
+
+bool ReadStatistics(Reader& reader, SavedGame& savedGame) {
+    for (const auto& counter : aCounters) {
+        if (!reader.Number(savedGame.*counter.saved))
+            return false;
+    }
+    for (const auto& caption : aCaptions) {
+        if (!reader.Text(savedGame.*caption.saved))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+std::string FormatSavedGame(const SavedGame& savedGame) {
+    Writer writer;
+    for (const auto& counter : aCounters)
+        writer.Number(savedGame.*counter.saved);
+    for (const auto& caption : aCaptions)
+        writer.Text(savedGame.*caption.saved);
+    for (int i = 1; i <= intCellCount; ++i) {
+        const SavedCell& cell = savedGame.cells[i];
+        writer.Text(std::to_string(i));
+        writer.Truth(cell.blnGiven);
+        for (const auto text : aCellTexts)
+            writer.Text(cell.*text);
+    }
+    return writer.Take();
+}
+
+std::optional<SavedGame> ParseSavedGame(std::string_view bytes) {
+    Reader reader(bytes);
+    SavedGame savedGame;
+    if (!ReadStatistics(reader, savedGame))
+        return std::nullopt;
+    for (SavedCell& cell : savedGame.cells) {
+        if (!ReadCell(reader, cell))
+            return std::nullopt;
+    }
+    if (!reader.IsAtEnd())
+        return std::nullopt;
+    return savedGame;
+}
+
+SavedGame TakeGame(const Game& game) {
+    SavedGame savedGame;
+    for (const auto& counter : aCounters)
+        savedGame.*counter.saved = game.*counter.played;
+    for (const auto& caption : aCaptions)
+        savedGame.*caption.saved = game.*caption.played;
+    for (int i = 1; i <= intCellCount; ++i) {
+        const Cell& cell = game.cells[i];
+        savedGame.cells[i] = {cell.blnGiven, cell.strSolution, cell.strEntry, cell.strNotes};
+    }
+    return savedGame;
+}
+
+void PutGame(Game& game, const SavedGame& savedGame) {
+    ResetGrid(game);
+    ResetCandidate(game);
+    for (const auto& counter : aCounters)
+        game.*counter.played = savedGame.*counter.saved;
+    for (const auto& caption : aCaptions)
+        game.*caption.played = savedGame.*caption.saved;
+    for (int i = 1; i <= intCellCount; ++i) {
+        const SavedCell& saved = savedGame.cells[i];
+        Cell& cell = game.cells[i];
+        cell.blnGiven = saved.blnGiven;
+        cell.strSolution = saved.strSolution;
+        cell.strEntry = saved.strEntry;
+        cell.strNotes = saved.strNotes;
+    }
+}
+
+} // namespace cellora
