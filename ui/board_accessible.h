@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+
+#include "core/modCellora.h"
+
+class QWidget;
+
+namespace cellora {
+
+class BoardView;
+
+/// What a cell is called by assistive technology: where it is, what the player sees in it, whether
+/// it is marked wrong, and its notes.
+QString GetCellName(const Game& game, int intCell);
+
+/// Makes every BoardView a table of cells; called once before the first window.
+void InstallBoardAccessibility();
+
+/// Tells assistive technology about cells that were renamed and a cursor that moved since the last
+/// call. It remembers the names it told; without assistive technology it does nothing.
+class BoardAnnouncer final {
+public:
+    explicit BoardAnnouncer(BoardView& view) : view_(view) {}
+
+    void Announce();
+
+private:
+    void AnnounceNames();
+    void AnnounceCursor();
+
+    BoardView& view_;
+    Numbered<QString, intCellCount> strNames_;
+    int intCursorCell_ = 0;
+};
+
+} // namespace cellora

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QBrush>
+#include <QFont>
+#include <QGraphicsItem>
+#include <QPen>
+
+/// The elements the board is made of, in twips. Setting what an element has already costs nothing.
+namespace cellora {
+
+/// A rectangle with an outline drawn inside it and an optional fill.
+class ShapeItem final : public QGraphicsItem {
+public:
+    /// The outline's width is in pixels of 15 twips.
+    ShapeItem(QRectF rect, int intOutlineWidth, QGraphicsScene& scene);
+
+    void SetOutline(int intWidth, const QColor& color);
+
+    /// An invalid colour leaves the rectangle unfilled.
+    void SetFill(const QColor& color);
+
+    QRectF boundingRect() const override { return rect_; }
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override;
+
+    QColor outlineColor() const { return colorOutline_; }
+    int outlineWidth() const { return intOutlineWidth_; }
+    QColor fillColor() const { return colorFill_; }
+
+private:
+    QRectF rect_;
+    int intOutlineWidth_;
+    QColor colorOutline_{Qt::black};
+    QColor colorFill_;
+};
+
+/// One line of text from the top of a rectangle, on a transparent background.
+class LabelItem final : public QGraphicsItem {
+public:
+    LabelItem(QRectF rect, QFont font, Qt::Alignment alignment, QGraphicsScene& scene);
+
+    void SetText(const QString& strText);
+    void SetColor(const QColor& color);
+
+    QRectF boundingRect() const override { return rect_; }
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override;
+
+    const QString& text() const { return strText_; }
+    QColor color() const { return color_; }
+    bool ContainsPoint(QPointF point) const { return rect_.contains(point); }
+
+private:
+    QRectF rect_;
+    QFont font_;
+    Qt::Alignment alignment_;
+    QString strText_;
+    QColor color_{Qt::black};
+};
+
+/// The ring under the digit of a highlighted cell.
+class RingItem final : public QGraphicsItem {
+public:
+    RingItem(QRectF rect, QGraphicsScene& scene);
+
+    QRectF boundingRect() const override { return rect_; }
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override;
+
+private:
+    QRectF rect_;
+};
+
+} // namespace cellora

@@ -1,0 +1,55 @@
+#include "ui/form.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+
+namespace cellora {
+
+Form::Form(Game& game, const QString& strTitle, QSize sizeInTwips, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      game_(game) {
+    setWindowTitle(strTitle);
+    setFixedSize(ToPixelSize(sizeInTwips.width(), sizeInTwips.height()));
+}
+
+void Form::Place(QWidget* widget, double dblLeft, double dblTop, double dblWidth,
+                 double dblHeight) {
+    widget->setGeometry(ToPixelRect(dblLeft, dblTop, dblWidth, dblHeight));
+}
+
+QLabel* Form::AddLabel(QWidget* parent, const QString& strText, double dblLeft, double dblTop,
+                       double dblWidth, double dblHeight, Qt::Alignment alignment) {
+    auto* const label = new QLabel(strText, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(alignment | Qt::AlignTop);
+    Place(label, dblLeft, dblTop, dblWidth, dblHeight);
+    return label;
+}
+
+QPushButton* Form::AddButton(QWidget* parent, const QString& strCaption, double dblLeft,
+                             double dblTop, double dblWidth, double dblHeight) {
+    auto* const button = new QPushButton(strCaption, parent);
+    Place(button, dblLeft, dblTop, dblWidth, dblHeight);
+    return button;
+}
+
+void Form::ShowHelp() {
+    game_.desktop.ShowModal(ModalWindow::frmHelp);
+}
+
+void Form::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    const QRect rectScreen = screen()->geometry();
+    move(rectScreen.center() - QPoint(frameGeometry().width(), frameGeometry().height()) / 2);
+}
+
+void Form::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        game_.desktop.SetMousePointer(MousePointer::Default);
+}
+
+} // namespace cellora

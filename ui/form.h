@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QDialog>
+
+#include "core/modCellora.h"
+#include "ui/text.h"
+#include "ui/twips.h"
+
+class QLabel;
+class QPushButton;
+
+namespace cellora {
+
+/// A modal side window: fixed size, centred on the screen, measured in twips. It is made afresh for
+/// each showing. What it changes in the game it announces with `gameChanged`, and the main window
+/// mirrors the game then.
+class Form : public QDialog {
+    Q_OBJECT
+
+public:
+    /// `game` outlives the form. Width and height are those of the inner area.
+    Form(Game& game, const QString& strTitle, QSize sizeInTwips, QWidget* parent);
+
+signals:
+    void gameChanged();
+
+protected:
+    Game& game() { return game_; }
+
+    /// Puts a child of the form at a place in twips.
+    static void Place(QWidget* widget, double dblLeft, double dblTop, double dblWidth,
+                      double dblHeight);
+
+    QLabel* AddLabel(QWidget* parent, const QString& strText, double dblLeft, double dblTop,
+                     double dblWidth, double dblHeight = 255,
+                     Qt::Alignment alignment = Qt::AlignLeft);
+
+    /// Enter presses it while it has the keyboard; the form names its default button.
+    QPushButton* AddButton(QWidget* parent, const QString& strCaption, double dblLeft,
+                           double dblTop, double dblWidth = 1215, double dblHeight = 375);
+
+    /// Opens the Instructions window over this one.
+    void ShowHelp();
+
+    void showEvent(QShowEvent* event) override;
+
+private:
+    /// The window becomes active: the pointer goes back to the arrow.
+    void changeEvent(QEvent* event) override;
+
+    Game& game_;
+};
+
+} // namespace cellora

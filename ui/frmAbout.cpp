@@ -1,0 +1,115 @@
+#include "ui/frmAbout.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "ui/link_label.h"
+#include "ui/look.h"
+#include "ui/modCommon_Internet.h"
+#include "ui/pictures.h"
+#include "ui/system_info.h"
+#include "ui/version_info.h"
+
+namespace cellora {
+
+namespace {
+
+/// Grey as the window's other quiet texts, dark enough to read.
+void MakeGrey(QLabel* label) {
+    label->setForegroundRole(QPalette::Shadow);
+}
+
+} // namespace
+
+frmAbout::frmAbout(Game& game, QWidget* parent) : Form(game, {}, {5970, 4890}, parent) {
+    setObjectName(QStringLiteral("frmAbout"));
+    MakePictures();
+    MakeVersion();
+    MakeComments();
+    MakeLink();
+    MakeButtons();
+    LoadAboutInfo();
+}
+
+void frmAbout::MakePictures() {
+    struct PictureRow {
+        const char* strName;
+        const char* strPicture;
+        QRect rectInTwips;
+    };
+    static constexpr PictureRow aPictures[] = {
+        {"picIcon", "about", {0, 0, 5970, 2400}},
+        {"Picture1", "about_icon", {240, 2490, 480, 480}},
+    };
+    for (const PictureRow& row : aPictures) {
+        const QRect& rect = row.rectInTwips;
+        QLabel* const picture = AddLabel(this, {}, rect.x(), rect.y(), rect.width(), rect.height());
+        picture->setObjectName(QLatin1String(row.strName));
+        picture->setPixmap(
+            MakePixmap(QLatin1String(row.strPicture), picture->size(), devicePixelRatioF()));
+    }
+}
+
+void frmAbout::MakeVersion() {
+    lblVersion_ = AddLabel(this, {}, 840, 2520, 1560);
+    lblVersion_->setObjectName(QStringLiteral("lblVersion"));
+    MakeGrey(lblVersion_);
+    lblCopyright_ = AddLabel(this, {}, 2520, 2520, 3330);
+    lblCopyright_->setObjectName(QStringLiteral("lblCopyright"));
+    MakeGrey(lblCopyright_);
+}
+
+void frmAbout::MakeComments() {
+    fraComments_ = new QGroupBox(this);
+    fraComments_->setObjectName(QStringLiteral("fraComments"));
+    Place(fraComments_, 120, 3120, 5730, 1095);
+    txtComments_ = new QPlainTextEdit(fraComments_);
+    txtComments_->setObjectName(QStringLiteral("txtComments"));
+    txtComments_->setAccessibleName(QStringLiteral("Information"));
+    txtComments_->setReadOnly(true);
+    txtComments_->setTabChangesFocus(true);
+    txtComments_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    Place(txtComments_, 105, 300, 5520, 690);
+}
+
+void frmAbout::MakeLink() {
+    AddLabel(this, QStringLiteral("Brought to you by -"), 240, 4320, 2880)
+        ->setObjectName(QStringLiteral("Label1"));
+    lblCompany_ = new LinkLabel(this);
+    lblCompany_->setObjectName(QStringLiteral("lblCompany"));
+    lblCompany_->setToolTip(QStringLiteral("Internet connection required..."));
+    Place(lblCompany_, 240, 4560, 2880, 255);
+    connect(lblCompany_, &LinkLabel::clicked, this,
+            [] { OpenURL(QLatin1String(strCompanyName), intShowNormal); });
+}
+
+void frmAbout::MakeButtons() {
+    QPushButton* const cmdOK = AddButton(this, QStringLiteral("OK"), 3240, 4440, 1260, 345);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setAutoDefault(true);
+    cmdOK->setDefault(true);
+    cmdOK->setFocus();
+    connect(cmdOK, &QPushButton::clicked, this, &frmAbout::accept);
+
+    QPushButton* const cmdSysInfo =
+        AddButton(this, QStringLiteral("&System Info..."), 4560, 4440, 1245, 345);
+    cmdSysInfo->setObjectName(QStringLiteral("cmdSysInfo"));
+    cmdSysInfo->setAutoDefault(true);
+    connect(cmdSysInfo, &QPushButton::clicked, this, [this] { ShowSystemInfo(game()); });
+}
+
+void frmAbout::LoadAboutInfo() {
+    setWindowTitle(QStringLiteral("About ") + ToQString(strProductName));
+    lblVersion_->setText(QStringLiteral("Version %1.%2.%3")
+                             .arg(intVersionMajor)
+                             .arg(intVersionMinor)
+                             .arg(intVersionRevision));
+    txtComments_->setPlainText(QLatin1String(strComments));
+    lblCompany_->setText(QLatin1String(strCompanyName));
+    fraComments_->setTitle(QStringLiteral("Information"));
+    lblCopyright_->setText(QLatin1String(strLegalNotice));
+}
+
+} // namespace cellora

@@ -1,0 +1,33 @@
+#include "ui/frmCDG.h"
+
+#include <QColorDialog>
+#include <QPrintDialog>
+#include <QScreen>
+
+namespace cellora {
+
+namespace {
+
+bool ShowCentered(QDialog& cdg) {
+    cdg.adjustSize();
+    cdg.move(cdg.screen()->geometry().center() - cdg.rect().center());
+    return cdg.exec() == QDialog::Accepted;
+}
+
+} // namespace
+
+std::optional<QColor> frmCDG::ShowColor() {
+    QColorDialog cdg(Qt::white, owner_);
+    cdg.setWindowTitle(QStringLiteral("Select Color"));
+    if (!ShowCentered(cdg))
+        return std::nullopt;
+    return cdg.selectedColor();
+}
+
+bool frmCDG::ShowPrinter(QPrinter& printer) {
+    QPrintDialog cdg(&printer, owner_);
+    cdg.setOptions(QAbstractPrintDialog::PrintShowPageSize);
+    return ShowCentered(cdg);
+}
+
+} // namespace cellora

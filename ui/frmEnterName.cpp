@@ -1,0 +1,151 @@
+#include "ui/frmEnterName.h"
+
+#include <algorithm>
+#include <string>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QValidator>
+
+#include "flow/hall_of_fame.h"
+#include "ui/look.h"
+#include "ui/pictures.h"
+
+namespace cellora {
+
+namespace {
+
+constexpr std::size_t intMaxNameLength = 40;
+constexpr int intMedalSize = 96;
+constexpr double dblTextLeft = 2040;
+constexpr double dblTextWidth = 5220;
+
+/// The file keeps a name between double quotes on one line.
+bool IsRefused(char32_t character) {
+    const QChar::Category category = QChar::category(character);
+    return character == U'"' || category == QChar::Other_Control ||
+           category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
+}
+
+std::u32string Clean(const QString& strText) {
+    std::u32string strClean = strText.toStdU32String();
+    std::erase_if(strClean, IsRefused);
+    return strClean;
+}
+
+/// Drops what a name cannot hold, as it is typed or pasted. Of an insertion that is too long the
+/// end is dropped, which lies in front of the cursor; a length limit of the box itself would count
+/// dropped characters and could cut a character in two.
+class NameValidator final : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& strInput, int& intPosition) const override {
+        std::u32string strBefore = Clean(strInput.left(intPosition));
+        const std::u32string strAfter = Clean(strInput.mid(intPosition));
+        const std::size_t intRoom = intMaxNameLength - std::min(intMaxNameLength, strAfter.size());
+        strBefore.resize(std::min(strBefore.size(), intRoom));
+        const QString strKept = QString::fromStdU32String(strBefore);
+        intPosition = static_cast<int>(strKept.size());
+        strInput = strKept + QString::fromStdU32String(strAfter);
+        return Acceptable;
+    }
+};
+
+} // namespace
+
+frmEnterName::frmEnterName(Game& game, QWidget* parent)
+    : Form(game, QStringLiteral("Congratulations!"), {7500, 2640}, parent) {
+    ShowMedal();
+    MakeLabels();
+    MakeNameBox();
+    MakeButtons();
+    game.desktop.Beep();
+}
+
+void frmEnterName::done(int intResult) {
+    if (txtName->text().isEmpty() && WantsToEnterName())
+        txtName->setFocus();
+    else
+        Form::done(intResult);
+}
+
+void frmEnterName::ShowMedal() {
+    const QString strRank = QString::number(GetRank(game()));
+    QLabel* const picMedal = AddLabel(this, {}, 330, 360, 1440, 1440);
+    picMedal->setObjectName(QStringLiteral("picMedal"));
+    picMedal->setAccessibleName(QStringLiteral("Medal for rank %1").arg(strRank));
+    picMedal->setPixmap(MakePixmap(QStringLiteral("medal_%1").arg(strRank),
+                                   {intMedalSize, intMedalSize}, devicePixelRatioF()));
+}
+
+void frmEnterName::MakeLabels() {
+    QLabel* const lblCongratulations =
+        AddLabel(this,
+                 QStringLiteral("You have successfully completed a %1 game of the 'Cellora'.")
+                     .arg(ToQString(game().lblLevel)),
+                 dblTextLeft, 240, dblTextWidth, 420);
+    lblCongratulations->setObjectName(QStringLiteral("lblCongratulations"));
+    lblCongratulations->setWordWrap(true);
+
+    QLabel* const lblTime =
+        AddLabel(this, QStringLiteral("Your time was %1.").arg(ToQString(game().lblTime)),
+                 dblTextLeft, 675, dblTextWidth, 300);
+    lblTime->setObjectName(QStringLiteral("lblTime"));
+    lblTime->setFont(MakeFont(9.75, Weight::Bold));
+}
+
+void frmEnterName::MakeNameBox() {
+    QLabel* const lblName =
+        AddLabel(this, QStringLiteral("Enter your name into the 'Hall of Fame'"), dblTextLeft, 1095,
+                 dblTextWidth);
+    lblName->setObjectName(QStringLiteral("lblName"));
+    txtName = new QLineEdit(this);
+    txtName->setObjectName(QStringLiteral("txtName"));
+    txtName->setAccessibleName(lblName->text());
+    txtName->setValidator(new NameValidator(txtName));
+    Place(txtName, dblTextLeft, 1350, dblTextWidth, 360);
+    lblName->setBuddy(txtName);
+}
+
+void frmEnterName::MakeButtons() {
+    QPushButton* const cmdOK = AddButton(this, QStringLiteral("OK"), 3375, 2025);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &frmEnterName::cmdOK_Click);
+
+    QPushButton* const cmdCancel = AddButton(this, QStringLiteral("Cancel"), 4710, 2025);
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    connect(cmdCancel, &QPushButton::clicked, this, &frmEnterName::reject);
+
+    QPushButton* const cmdHelp = AddButton(this, QStringLiteral("Help"), 6045, 2025);
+    cmdHelp->setObjectName(QStringLiteral("cmdHelp"));
+    connect(cmdHelp, &QPushButton::clicked, this, &frmEnterName::ShowHelp);
+}
+
+bool frmEnterName::WantsToEnterName() {
+    Desktop& desktop = game().desktop;
+    desktop.Beep();
+    const Answer answer = desktop.ShowMessageBox(
+        {.strTitle = "Enter your name?",
+         .strText = std::string("You have not entered your name. If you don't enter a name then "
+                                "your achievement will not be included in the 'Hall of Fame'.")
+                        .append(strParagraphBreak)
+                        .append("Do you wish to enter your name?"),
+         .icon = MessageIcon::Question,
+         .buttons = MessageButtons::YesNo});
+    return answer == Answer::Yes;
+}
+
+void frmEnterName::cmdOK_Click() {
+    if (const QString strName = txtName->text(); !strName.isEmpty()) {
+        if (const auto reason = SaveHallOfFameEntry(game(), ToStdString(strName))) {
+            ShowHallOfFameError(game(), *reason);
+            return;
+        }
+    }
+    accept();
+}
+
+} // namespace cellora

@@ -1,0 +1,69 @@
+#include "ui/frmHelp.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+
+#include "store/modCommon_File.h"
+#include "store/settings.h"
+#include "ui/help_pages.h"
+#include "ui/look.h"
+#include "ui/pictures.h"
+
+namespace cellora {
+
+frmHelp::frmHelp(Game& game, QWidget* parent)
+    : Form(game, ToQString(strProductName), {8100, 5055}, parent) {
+    setObjectName(QStringLiteral("frmHelp"));
+    MakePicture();
+    QLabel* const lblWelcome = AddLabel(this, QStringLiteral("Welcome..."), 2160, 150, 5655, 495);
+    lblWelcome->setObjectName(QStringLiteral("Label1"));
+    lblWelcome->setFont(MakeFont(18, Weight::Bold));
+    MakeTabs();
+
+    QPushButton* const cmdOK = AddButton(this, QStringLiteral("OK"), 120, 4200, 1815, 495);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    cmdOK->setFocus();
+    connect(cmdOK, &QPushButton::clicked, this, &frmHelp::accept);
+
+    chkStartup_ = new QCheckBox(QStringLiteral("Show at startup"), this);
+    chkStartup_->setObjectName(QStringLiteral("chkStartup"));
+    // The wider gap of the style would leave the caption too little room.
+    chkStartup_->setStyleSheet(QStringLiteral("spacing: 2px"));
+    Place(chkStartup_, 6600, 4765, 1455, 255);
+    chkStartup_->setChecked(ReadStartup(GetSettingsPath()) == 1);
+}
+
+void frmHelp::ShowTab(int intIndex) {
+    tab_->setCurrentIndex(intIndex);
+}
+
+void frmHelp::done(int intResult) {
+    WriteStartup(chkStartup_->isChecked(), GetSettingsPath());
+    Form::done(intResult);
+}
+
+void frmHelp::MakePicture() {
+    QLabel* const picture = AddLabel(this, {}, 120, 240, 1785, 3825);
+    picture->setObjectName(QStringLiteral("Picture1"));
+    picture->setPixmap(
+        MakePixmap(QStringLiteral("instructions"), picture->size(), devicePixelRatioF()));
+}
+
+void frmHelp::MakeTabs() {
+    tab_ = new QTabWidget(this);
+    tab_->setObjectName(QStringLiteral("tab"));
+    Place(tab_, 2160, 720, 5830, 3975);
+    tab_->addTab(MakeInstructionsPage(), QStringLiteral("Instructions"));
+    tab_->addTab(MakeControlsPage(), QStringLiteral("Controls"));
+    tab_->addTab(MakeMenusPage(), QStringLiteral("Menus"));
+    tab_->addTab(MakeHistoryPage(), QStringLiteral("History"));
+}
+
+std::string frmHelp::GetSettingsPath() {
+    return JoinPath(game().strProgramFolder, std::string(strSettingsFileName));
+}
+
+} // namespace cellora

@@ -1,0 +1,210 @@
+#include "ui/frmMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "flow/aids.h"
+#include "flow/clock.h"
+#include "flow/game_file.h"
+#include "flow/start_up.h"
+#include "play/cursor.h"
+#include "play/entry.h"
+#include "play/notes.h"
+#include "play/selector.h"
+#include "ui/board_view.h"
+#include "ui/look.h"
+#include "ui/number_selector.h"
+#include "ui/pictures.h"
+#include "ui/qt_desktop.h"
+#include "ui/statistics_pane.h"
+#include "ui/text.h"
+#include "ui/twips.h"
+
+namespace cellora {
+
+template <typename Command>
+void frmMain::Do(Command fnCommand) {
+    fnCommand(game_);
+    Mirror();
+}
+
+frmMain::frmMain(Game& game, QtDesktop& desktop) : game_(game), desktop_(desktop) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(ToQString(strProductName));
+    setWindowIcon(MakeIcon(QStringLiteral("cellora")));
+    LoadMainWindow(game_);
+    MakeMenus();
+    MakeClient();
+    MakePopups();
+    ConnectTimers();
+    desktop_.Attach(game_, this, [this] { Mirror(); });
+    announcer_ = std::make_unique<BoardAnnouncer>(*picGrid_);
+    tmrFitting_.setSingleShot(true);
+    Mirror();
+}
+
+frmMain::~frmMain() {
+    desktop_.Detach();
+}
+
+void frmMain::MakeClient() {
+    client_ = new QWidget(this);
+    client_->setObjectName(QStringLiteral("client"));
+    SetBackColor(*client_, lngColorWhite);
+    client_->installEventFilter(this);
+    setCentralWidget(client_);
+    picMenuShadow_ = new QWidget(client_);
+    picMenuShadow_->setObjectName(QStringLiteral("picMenuShadow"));
+    MakeToolbar();
+    MakeBorder();
+    auto* const sbrMain = new QStatusBar(this);
+    sbrMain->setObjectName(QStringLiteral("sbrMain"));
+    sbrMain->setFixedHeight(ToPixels(dblStatusBarHeight));
+    setStatusBar(sbrMain);
+}
+
+void frmMain::MakeBorder() {
+    picBorder_ = new QWidget(client_);
+    picBorder_->setObjectName(QStringLiteral("picBorder"));
+    picBorder_->setFocusPolicy(Qt::ClickFocus);
+    picBorder_->installEventFilter(this);
+    picStatistics_ = new StatisticsPane(picBorder_);
+    picButtons_ = new NumberSelector(picBorder_);
+    picGrid_ = new BoardView(game_, scene_, picBorder_);
+    picGrid_->hide();
+    connect(picGrid_, &BoardView::cellReleased, this,
+            [this](int intCell, MouseButton button, QPoint position) {
+                popupPosition_ = position;
+                Do([&](Game& game) { CellClick(game, intCell, button); });
+                FocusGrid();
+            });
+    connect(picGrid_, &BoardView::keyPressed, this, [this](std::int16_t intKeyCode) {
+        Do([&](Game& game) { DoKeyDown(game, intKeyCode); });
+    });
+    connect(picGrid_, &BoardView::popupRequested, this, [this](QPoint position) {
+        popupPosition_ = position;
+        Do([](Game& game) { CellClick(game, game.intCursorCell, MouseButton::Right); });
+    });
+    connect(picButtons_, &NumberSelector::numberReleased, this,
+            [this](int intNumber, bool blnRightButton, QPoint position) {
+                popupPosition_ = position;
+                Do([&](Game& game) { picButton_MouseUp(game, intNumber, blnRightButton); });
+            });
+}
+
+void frmMain::MakePopups() {
+    mnuRightClick_ = new CellPopup(this);
+    const auto Connect = [this](auto signal, auto fnCommand) {
+        connect(mnuRightClick_, signal, this, [this, fnCommand](int intDigit) {
+            Do([&](Game& game) { fnCommand(game, intDigit); });
+        });
+    };
+    Connect(&CellPopup::quickEntryChosen, mnuA_Click);
+    Connect(&CellPopup::numberChosen, mnuC_Click);
+    connect(mnuRightClick_, &CellPopup::removeAllChosen, this, [this] { Do(mnuRemoveAll_Click); });
+    mnuButton_ = new QMenu(this);
+    mnuButton_->setObjectName(QStringLiteral("mnuButton"));
+    mnuHighlight_ = mnuButton_->addAction(QStringLiteral("Highlight"), this,
+                                          [this] { Do(mnuHighlight_Click); });
+    mnuHighlight_->setCheckable(true);
+    connect(&desktop_, &QtDesktop::popupWanted, this, &frmMain::OpenPopup);
+}
+
+void frmMain::ConnectTimers() {
+    connect(&desktop_, &QtDesktop::tick, this, &frmMain::OnTick);
+}
+
+void frmMain::OnTick(Timer timer) {
+    switch (timer) {
+    case Timer::tmr:
+        return Do(tmr_Timer);
+    case Timer::tmrCellWait:
+        return Do(tmrCellWait_Timer);
+    case Timer::tmrCell:
+        return Do(tmrCell_Timer);
+    }
+}
+
+void frmMain::OpenPopup(PopupMenu menu) {
+    if (menu == PopupMenu::mnuRightClick) {
+        mnuRightClick_->Build(game_);
+        mnuRightClick_->popup(popupPosition_);
+        return;
+    }
+    mnuHighlight_->setEnabled(CanHighlight(game_));
+    mnuHighlight_->setChecked(IsHighlighted(game_));
+    mnuButton_->popup(popupPosition_);
+}
+
+void frmMain::Mirror() {
+    scene_.Mirror(game_);
+    picGrid_->Mirror();
+    picButtons_->Mirror(game_);
+    picStatistics_->Mirror(game_);
+    MirrorMenus();
+    MirrorToolbar();
+    if (lngBorderColor_ != game_.picBorder.lngBackColor) {
+        lngBorderColor_ = game_.picBorder.lngBackColor;
+        SetBackColor(*picBorder_, lngBorderColor_);
+    }
+    statusBar()->setVisible(game_.blnStatusBarVisible);
+    announcer_->Announce();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    const bool blnClose = MayClose(game_);
+    Mirror();
+    if (!blnClose) {
+        event->ignore();
+        return;
+    }
+    UnloadMainWindow(game_);
+    event->accept();
+    QCoreApplication::exit();
+}
+
+void frmMain::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        Form_Activate();
+}
+
+void frmMain::Form_Activate() {
+    desktop_.SetMousePointer(MousePointer::Default);
+    FocusGrid();
+}
+
+void frmMain::FocusGrid() {
+    if (picGrid_->isVisible() && picGrid_->isEnabled())
+        picGrid_->setFocus(Qt::OtherFocusReason);
+}
+
+void frmMain::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    // Menus take the keyboard here while they are used.
+    if (!menuBar()->hasFocus() && QApplication::activePopupWidget() == nullptr)
+        FocusGrid();
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == client_ && event->type() == QEvent::Resize)
+        Form_Resize();
+    if (watched == picBorder_ && event->type() == QEvent::KeyPress)
+        return picBorder_KeyDown(*static_cast<QKeyEvent*>(event));
+    return QMainWindow::eventFilter(watched, event);
+}
+
+bool frmMain::picBorder_KeyDown(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
+        return false;
+    const std::int16_t intKeyCode = GetVirtualKey(event);
+    Do([&](Game& game) { DoKeyDown(game, intKeyCode); });
+    return true;
+}
+
+} // namespace cellora

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+
+#include "flow/options.h"
+#include "ui/form.h"
+
+class QCheckBox;
+class QFrame;
+class QTabWidget;
+
+namespace cellora {
+
+/// The Options dialog: eight colours and the disappearing cursor. The game changes only with "OK"
+/// and "Apply".
+class frmOptions final : public Form {
+    Q_OBJECT
+
+public:
+    frmOptions(Game& game, QWidget* parent);
+
+private:
+    void MakeTabs();
+    QFrame* MakePage(QTabWidget* tab, const QString& strCaption);
+    void MakeSlot(QFrame* frame, int intSlotRow, double dblTop);
+    void MakeButtons();
+    void Form_Load();
+    void ShowColor(ColorSlot slot);
+
+    void cmdColor_Click(ColorSlot slot);
+    void chkCursor_Click();
+    void cmdOK_Click();
+    void cmdApply_Click();
+    void Apply();
+
+    Options options_;
+    std::array<QFrame*, lngColorSlotCount> picColor_{};
+    QCheckBox* chkCursor_ = nullptr;
+    QPushButton* cmdApply_ = nullptr;
+};
+
+} // namespace cellora

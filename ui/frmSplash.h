@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+
+namespace cellora {
+
+/// The splash window: first a picture, a second later the main window disabled behind it, another
+/// second later the main window alone.
+class frmSplash final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// What start-up does, handed in by `Main`. `fnLoad` makes the main window if there is none
+    /// yet, disables it and shows it; `fnStart` enables it, after the splash has closed.
+    struct Steps {
+        std::function<void()> fnLoad;
+        std::function<void()> fnStart;
+    };
+
+    explicit frmSplash(Steps steps);
+
+    QTimer& tmrSplash() { return tmrSplash_; }
+    QTimer& tmrSplash2() { return tmrSplash2_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QLabel* AddLabel(const QString& strName, const QString& strText, QRect rect,
+                     Qt::Alignment alignment);
+    void tmrSplash_Timer();
+    void tmrSplash2_Timer();
+
+    Steps steps_;
+    QTimer tmrSplash_;
+    QTimer tmrSplash2_;
+};
+
+} // namespace cellora

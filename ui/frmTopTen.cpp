@@ -1,0 +1,205 @@
+#include "ui/frmTopTen.h"
+
+#include <algorithm>
+#include <string>
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QProxyStyle>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "core/levels.h"
+#include "flow/hall_of_fame.h"
+#include "ui/look.h"
+#include "ui/pictures.h"
+
+namespace cellora {
+
+namespace {
+
+constexpr int intMedalRanks = 3;
+constexpr int intMedalSize = 20;
+constexpr int intRowHeight = 25;
+
+struct Column {
+    int intIndex;
+    const char* strTitle;
+    Qt::AlignmentFlag alignment;
+    QHeaderView::ResizeMode resizeMode;
+};
+
+constexpr Column columnRank{0, "Rank", Qt::AlignRight, QHeaderView::ResizeToContents};
+constexpr Column columnName{1, "Name", Qt::AlignLeft, QHeaderView::Stretch};
+constexpr Column columnTime{2, "Time", Qt::AlignRight, QHeaderView::ResizeToContents};
+constexpr Column aColumns[] = {columnRank, columnName, columnTime};
+
+/// Room at both sides of every cell and header.
+class ListStyle final : public QProxyStyle {
+public:
+    ListStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        switch (metric) {
+        case PM_FocusFrameHMargin:
+        case PM_HeaderMargin:
+            return 6;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
+} // namespace
+
+frmTopTen::frmTopTen(Game& game, QWidget* parent)
+    : Form(game, QStringLiteral("Top Ten"), {6750, 6390}, parent) {
+    auto* const tabTopTen = new QTabWidget(this);
+    tabTopTen->setObjectName(QStringLiteral("tabTopTen"));
+    tabTopTen->setAccessibleName(windowTitle());
+    tabTopTen->addTab(MakePage(), QStringLiteral("Hall of Fame"));
+    Place(tabTopTen, 180, 180, 6390, 5475);
+    MakeButtons();
+    ShowStartingLevel();
+    cboLevel->setFocus();
+}
+
+QWidget* frmTopTen::MakePage() {
+    auto* const page = new QWidget;
+    auto* const layout = new QVBoxLayout(page);
+    layout->setContentsMargins(12, 12, 12, 12);
+    layout->setSpacing(10);
+    layout->addWidget(MakeLevelBox(page));
+    MakeList(page);
+    layout->addWidget(lvwTopTen);
+    return page;
+}
+
+QWidget* frmTopTen::MakeLevelBox(QWidget* page) {
+    auto* const row = new QWidget(page);
+    auto* const layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* const lblLevel = new QLabel(QStringLiteral("Difficulty Level"), row);
+    lblLevel->setObjectName(QStringLiteral("lblLevel"));
+    cboLevel = new QComboBox(row);
+    cboLevel->setObjectName(QStringLiteral("cboLevel"));
+    cboLevel->setAccessibleName(lblLevel->text());
+    cboLevel->setMaxVisibleItems(15);
+    cboLevel->setMinimumWidth(ToPixels(1815));
+    for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
+        cboLevel->addItem(ToQString(GetLevelName(intLevel)));
+    lblLevel->setBuddy(cboLevel);
+    connect(cboLevel, &QComboBox::currentIndexChanged, this, &frmTopTen::cboLevel_Click);
+    layout->addWidget(lblLevel);
+    layout->addWidget(cboLevel);
+    layout->addStretch();
+    return row;
+}
+
+void frmTopTen::MakeList(QWidget* page) {
+    lvwTopTen = new QTreeWidget(page);
+    lvwTopTen->setObjectName(QStringLiteral("lvwTopTen"));
+    lvwTopTen->setAccessibleName(QStringLiteral("Best times"));
+    auto* const style = new ListStyle;
+    style->setParent(lvwTopTen);
+    lvwTopTen->setStyle(style);
+    lvwTopTen->header()->setStyle(style);
+    lvwTopTen->setRootIsDecorated(false);
+    lvwTopTen->setUniformRowHeights(true);
+    lvwTopTen->setAlternatingRowColors(true);
+    lvwTopTen->setAllColumnsShowFocus(true);
+    lvwTopTen->setIconSize({intMedalSize, intMedalSize});
+    MakeColumns();
+}
+
+void frmTopTen::MakeColumns() {
+    lvwTopTen->setColumnCount(static_cast<int>(std::size(aColumns)));
+    lvwTopTen->header()->setStretchLastSection(false);
+    lvwTopTen->header()->setSectionsMovable(false);
+    lvwTopTen->header()->setSectionsClickable(false);
+    for (const Column& column : aColumns) {
+        lvwTopTen->headerItem()->setText(column.intIndex, QLatin1String(column.strTitle));
+        lvwTopTen->headerItem()->setTextAlignment(column.intIndex,
+                                                  column.alignment | Qt::AlignVCenter);
+        lvwTopTen->header()->setSectionResizeMode(column.intIndex, column.resizeMode);
+    }
+}
+
+void frmTopTen::MakeButtons() {
+    QPushButton* const cmdOK = AddButton(this, QStringLiteral("OK"), 4020, 5835);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &frmTopTen::accept);
+
+    QPushButton* const cmdHelp = AddButton(this, QStringLiteral("&Help"), 5355, 5835);
+    cmdHelp->setObjectName(QStringLiteral("cmdHelp"));
+    connect(cmdHelp, &QPushButton::clicked, this, &frmTopTen::ShowHelp);
+
+    QPushButton* const cmdReset = AddButton(this, QStringLiteral("Reset"), 180, 5835);
+    cmdReset->setObjectName(QStringLiteral("cmdReset"));
+    connect(cmdReset, &QPushButton::clicked, this, &frmTopTen::cmdReset_Click);
+}
+
+void frmTopTen::ShowStartingLevel() {
+    const int intLevel = std::max<int>(GetHighestRecordedLevel(game()), 1);
+    cboLevel->setCurrentIndex(intLevel - 1);
+    ShowTopTenLevel(intLevel);
+}
+
+void frmTopTen::ShowTopTenLevel(int intLevel) {
+    ClearTopTenList();
+    LevelEntries entries;
+    ReadHallOfFame(game(), intLevel, entries);
+    for (int intRank = 1; intRank <= LevelEntries::size(); ++intRank) {
+        if (entries[intRank].strName == strNoName)
+            break;
+        AddRow(intRank, entries[intRank]);
+    }
+}
+
+void frmTopTen::AddRow(int intRank, const HallOfFameEntry& entry) {
+    const QString strName = ToQString(entry.strName);
+    auto* const row = new QTreeWidgetItem(
+        lvwTopTen, {QString::number(intRank), strName, ToQString(FormatEntryTime(entry))});
+    row->setSizeHint(columnRank.intIndex, {0, intRowHeight});
+    row->setToolTip(columnName.intIndex, strName.toHtmlEscaped());
+    for (const Column& column : aColumns) {
+        row->setTextAlignment(column.intIndex, column.alignment | Qt::AlignVCenter);
+        if (intRank <= intMedalRanks)
+            row->setFont(column.intIndex, MakeFont(8, Weight::Bold));
+    }
+    if (intRank <= intMedalRanks)
+        row->setIcon(columnRank.intIndex, MakeIcon(QStringLiteral("medal_%1").arg(intRank)));
+}
+
+void frmTopTen::ClearTopTenList() {
+    lvwTopTen->clear();
+}
+
+void frmTopTen::cboLevel_Click() {
+    ShowTopTenLevel(GetLevelNumber(ToStdString(cboLevel->currentText())));
+}
+
+void frmTopTen::cmdReset_Click() {
+    Desktop& desktop = game().desktop;
+    desktop.Beep();
+    const Answer answer = desktop.ShowMessageBox(
+        {.strTitle = "Reset Scores?",
+         .strText = std::string("WARNING: Resetting the Cellora 'Best Times' cannot be reversed.")
+                        .append(strParagraphBreak)
+                        .append("Are you sure you want to reset the scores?"),
+         .icon = MessageIcon::Question,
+         .buttons = MessageButtons::YesNo});
+    if (answer != Answer::Yes)
+        return;
+    if (const auto reason = ResetHallOfFame(game()))
+        ShowHallOfFameError(game(), *reason);
+    else
+        ShowTopTenLevel(1);
+}
+
+} // namespace cellora

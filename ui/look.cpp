@@ -1,0 +1,83 @@
+#include "ui/look.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace cellora {
+
+namespace {
+
+constexpr double dblTwipsPerPoint = 20;
+constexpr double dblPixelsPerPoint = 96.0 / 72.0;
+
+QFont MakePixelFont(double dblPixels, Weight weight) {
+    QFont font;
+    font.setFamilies({QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans")});
+    font.setPixelSize(qRound(dblPixels));
+    font.setBold(weight == Weight::Bold);
+    return font;
+}
+
+struct PaletteEntry {
+    QPalette::ColorRole role;
+    QRgb lngNormal;
+    QRgb lngDisabled;
+};
+
+constexpr PaletteEntry aPalette[] = {
+    {QPalette::Window, 0xFFF3F5F7, 0xFFF3F5F7},
+    {QPalette::WindowText, 0xFF000000, 0xFF8C98A4},
+    {QPalette::Base, 0xFFFFFFFF, 0xFFF3F5F7},
+    {QPalette::AlternateBase, 0xFFF3F7FC, 0xFFF3F5F7},
+    {QPalette::Text, 0xFF000000, 0xFF8C98A4},
+    {QPalette::PlaceholderText, 0xFF6B7782, 0xFF8C98A4},
+    {QPalette::Button, 0xFFEDF1F5, 0xFFEDF1F5},
+    {QPalette::ButtonText, 0xFF000000, 0xFF8C98A4},
+    {QPalette::BrightText, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::ToolTipBase, 0xFFFFF6D6, 0xFFFFF6D6},
+    {QPalette::ToolTipText, 0xFF22303C, 0xFF22303C},
+    {QPalette::Highlight, 0xFF2F6DB5, 0xFF8C98A4},
+    {QPalette::HighlightedText, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::Link, 0xFF1D4E89, 0xFF8C98A4},
+    {QPalette::Light, 0xFFFFFFFF, 0xFFFFFFFF},
+    {QPalette::Midlight, 0xFFE2E8EE, 0xFFE2E8EE},
+    {QPalette::Mid, 0xFFB7C1CB, 0xFFB7C1CB},
+    {QPalette::Dark, 0xFF8C98A4, 0xFF8C98A4},
+    {QPalette::Shadow, 0xFF5B6874, 0xFF5B6874},
+};
+
+QPalette MakePalette() {
+    QPalette palette;
+    for (const PaletteEntry& entry : aPalette) {
+        palette.setColor(entry.role, QColor::fromRgb(entry.lngNormal));
+        palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgb(entry.lngDisabled));
+    }
+    return palette;
+}
+
+} // namespace
+
+QFont MakeFont(double dblPoints, Weight weight) {
+    return MakePixelFont(dblPoints * dblPixelsPerPoint, weight);
+}
+
+QFont MakeSceneFont(double dblPoints, Weight weight) {
+    return MakePixelFont(dblPoints * dblTwipsPerPoint, weight);
+}
+
+QColor ToQColor(Color lngColor) {
+    return {lngColor & 0xFF, (lngColor >> 8) & 0xFF, (lngColor >> 16) & 0xFF};
+}
+
+Color ToColor(const QColor& color) {
+    return MakeColor(color.red(), color.green(), color.blue());
+}
+
+void ApplyLook(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(MakePalette());
+    application.setFont(MakeFont(8));
+}
+
+} // namespace cellora

@@ -1,0 +1,187 @@
+#include "ui/qt_desktop.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTime>
+#include <QTimer>
+
+#include "core/modCellora.h"
+#include "ui/form.h"
+#include "ui/modal_windows.h"
+#include "ui/text.h"
+
+namespace cellora {
+
+namespace {
+
+struct TimerDesign {
+    Timer timer;
+    int intMilliseconds;
+};
+
+constexpr TimerDesign aTimers[] = {
+    {Timer::tmr, 1000}, {Timer::tmrCellWait, 1000}, {Timer::tmrCell, 40}};
+
+constexpr const char* strFilter = "Sudoku Files (*.clp);;All Files (*)";
+
+QMessageBox::Icon GetIcon(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::Information:
+        return QMessageBox::Information;
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons GetButtons(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case MessageButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case MessageButtons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+Answer GetAnswer(int intButton) {
+    switch (intButton) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Cancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+} // namespace
+
+QtDesktop::QtDesktop() {
+    for (const TimerDesign& design : aTimers) {
+        auto timer = std::make_unique<QTimer>();
+        // The clock's ticks are the only record of the time played, so none may come late.
+        timer->setTimerType(Qt::PreciseTimer);
+        timer->setInterval(design.intMilliseconds);
+        connect(timer.get(), &QTimer::timeout, this,
+                [this, which = design.timer] { emit tick(which); });
+        timers_.push_back(std::move(timer));
+    }
+}
+
+QtDesktop::~QtDesktop() = default;
+
+void QtDesktop::Attach(Game& game, QWidget* window, std::function<void()> fnMirror) {
+    game_ = &game;
+    window_ = window;
+    fnMirror_ = std::move(fnMirror);
+}
+
+void QtDesktop::Detach() {
+    fnMirror_ = [] {};
+    for (const auto& timer : timers_)
+        timer->stop();
+}
+
+Answer QtDesktop::ShowMessageBox(const MessageBox& box) {
+    fnMirror_();
+    QMessageBox messageBox(GetIcon(box.icon), ToQString(box.strTitle), ToMessageText(box.strText),
+                           GetButtons(box.buttons), GetOwner());
+    messageBox.setTextFormat(Qt::PlainText);
+    return GetAnswer(messageBox.exec());
+}
+
+void QtDesktop::Beep() {
+    QApplication::beep();
+}
+
+void QtDesktop::SetMousePointer(MousePointer pointer) {
+    const bool blnHourglass = pointer == MousePointer::Hourglass;
+    if (blnHourglass == blnHourglass_)
+        return;
+    blnHourglass_ = blnHourglass;
+    if (blnHourglass)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtDesktop::EnableTimer(Timer timer, bool blnEnabled) {
+    QTimer& which = GetTimer(timer);
+    if (!blnEnabled)
+        which.stop();
+    else if (!which.isActive())
+        which.start();
+}
+
+bool QtDesktop::IsTimerEnabled(Timer timer) const {
+    return GetTimer(timer).isActive();
+}
+
+QTimer& QtDesktop::GetTimer(Timer timer) const {
+    return *timers_[static_cast<std::size_t>(timer)];
+}
+
+void QtDesktop::ShowModal(ModalWindow window) {
+    const auto dialog = MakeModalWindow(window, *game_, GetOwner());
+    Run(window, *dialog);
+}
+
+void QtDesktop::ShowInstructions(int intTab) {
+    const auto dialog = MakeInstructions(*game_, GetOwner(), intTab);
+    Run(ModalWindow::frmHelp, *dialog);
+}
+
+void QtDesktop::Run(ModalWindow window, Form& dialog) {
+    fnMirror_();
+    connect(&dialog, &Form::gameChanged, this, [this] { fnMirror_(); });
+    open_.push_back({window, &dialog});
+    dialog.exec();
+    open_.pop_back();
+}
+
+void QtDesktop::UnloadWindow(ModalWindow window) {
+    const auto found = std::ranges::find(open_, window, &OpenWindow::window);
+    if (found != open_.end())
+        found->dialog->close();
+}
+
+void QtDesktop::ShowPopup(PopupMenu menu) {
+    emit popupWanted(menu);
+}
+
+std::optional<std::string> QtDesktop::PickFile(const FileRequest& request) {
+    fnMirror_();
+    const bool blnSave = request.purpose == FilePurpose::Save;
+    QFileDialog dialog(GetOwner(), blnSave ? QStringLiteral("Save As") : QStringLiteral("Open"),
+                       ToQString(request.strFolder), QLatin1String(strFilter));
+    dialog.setAcceptMode(blnSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return ToStdString(dialog.selectedFiles().constFirst());
+}
+
+std::int32_t QtDesktop::GetTimeOfDay() {
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000;
+}
+
+QWidget* QtDesktop::GetOwner() const {
+    if (!open_.empty())
+        return open_.back().dialog;
+    return window_;
+}
+
+} // namespace cellora

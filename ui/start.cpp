@@ -1,0 +1,66 @@
+#include "ui/start.h"
+
+#include <array>
+
+#include <QFile>
+
+#include "flow/completion.h"
+#include "flow/start_up.h"
+#include "store/program_folder.h"
+#include "store/settings.h"
+#include "ui/board_accessible.h"
+
+namespace cellora {
+
+namespace {
+
+std::string ReadShipped(const QString& strName) {
+    QFile file(QStringLiteral(":/assets/") + strName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
+void PlaceFiles(const std::string& strFolder) {
+    const std::string strSettings = ReadShipped(QStringLiteral("cl.ini"));
+    const std::string strHallOfFame = ReadShipped(QStringLiteral("hof.clh"));
+    const std::array aFiles = {ShippedFile{strSettingsFileName, strSettings},
+                               ShippedFile{strHallOfFameFileName, strHallOfFame}};
+    PlaceShippedFiles(strFolder, aFiles);
+}
+
+} // namespace
+
+Program::Program(std::string strProgramFolder, std::uint64_t lngRandomState) : game_(desktop_) {
+    game_.strProgramFolder = std::move(strProgramFolder);
+    game_.lngRandomState = lngRandomState;
+    game_.fnDoCellCount = DoCellCount;
+}
+
+Program::~Program() = default;
+
+void Program::Main() {
+    splash_ = std::make_unique<frmSplash>(
+        frmSplash::Steps{.fnLoad = [this] { LoadMain(); }, .fnStart = [this] { StartMain(); }});
+    splash_->show();
+}
+
+void Program::LoadMain() {
+    if (main_ == nullptr) {
+        PlaceFiles(game_.strProgramFolder);
+        InstallBoardAccessibility();
+        main_ = std::make_unique<frmMain>(game_, desktop_);
+    }
+    main_->setEnabled(false);
+    if (!main_->isVisible()) {
+        main_->ShowAtStart();
+        splash_->raise();
+    }
+}
+
+void Program::StartMain() {
+    main_->setEnabled(true);
+    main_->activateWindow();
+    if (OpensAtStartup(GetSettingsFile(game_)))
+        desktop_.ShowModal(ModalWindow::frmHelp);
+}
+
+} // namespace cellora
