@@ -23,9 +23,10 @@ struct MessageBox {
 
 enum class MousePointer { Default, Hourglass };
 
-/// The main window's timers: the game clock (1000 ms), the cursor's idle time (1000 ms) and the
-/// thinning of the idle cursor (40 ms).
-enum class Timer { tmr, tmrCellWait, tmrCell };
+/// The main window's timers: the game clock (1000 ms), the cursor's idle time (1000 ms), the
+/// thinning of the idle cursor (40 ms) and the wait before a changed game is kept for recovery
+/// (1000 ms).
+enum class Timer { tmr, tmrCellWait, tmrCell, tmrRecovery };
 
 enum class ModalWindow { frmNew, frmPause, frmEnterName, frmTopTen, frmOptions, frmHelp, frmAbout };
 

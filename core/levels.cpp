@@ -13,10 +13,9 @@ std::string GetLevelName(int intLevel) {
 }
 
 int GetClueCount(std::string_view strDifficulty) {
-    for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel) {
+    for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
         if (strDifficulty == GetLevelName(intLevel))
             return 50 - intLevel;
-    }
     return 0;
 }
 

@@ -36,10 +36,9 @@ int FindEmptyCell(Game& game) {
 }
 
 bool HasEmptyCell(const Game& game) {
-    for (const Cell& cell : game.cells) {
+    for (const Cell& cell : game.cells)
         if (!cell.blnGiven && !HasEntry(cell))
             return true;
-    }
     return false;
 }
 
@@ -105,10 +104,9 @@ void SolvePuzzle(Game& game) {
                      std::string(strParagraphBreak) + "Do you this puzzle solved?"))
         return;
     game.desktop.SetMousePointer(MousePointer::Hourglass);
-    for (Cell& cell : game.cells) {
+    for (Cell& cell : game.cells)
         if (!HasEntry(cell))
             cell.blnGiven = true;
-    }
     game.desktop.SetMousePointer(MousePointer::Default);
     game.blnSolvedByComputer = true;
     DoCellCount(game);

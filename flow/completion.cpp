@@ -93,10 +93,9 @@ void LockBoard(Game& game) {
 void DoCellCount(Game& game) {
     int intSolved = 0;
     int intRemaining = 0;
-    for (const Cell& cell : game.cells) {
+    for (const Cell& cell : game.cells)
         if (!cell.blnGiven)
             ++(cell.strEntry.empty() ? intRemaining : intSolved);
-    }
     game.lblSolvedByYou = std::to_string(intSolved);
     game.lblCellsToSolve = std::to_string(intRemaining);
     if (intRemaining > 0)
@@ -107,8 +106,8 @@ void DoCellCount(Game& game) {
 }
 
 std::int16_t CountMistakes(const Game& game) {
-    return static_cast<std::int16_t>(
-        std::ranges::count_if(game.cells, [](const Cell& cell) { return cell.IsIncorrect(); }));
+    return static_cast<std::int16_t>(std::ranges::count_if(
+        game.cells, [](const Cell& cell) { return cell.IsIncorrect(); }));
 }
 
 } // namespace cellora

@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t intMaxFileSize = std::size_t{1} << 20U;
 constexpr int intLinesPerEntry = 4;
 constexpr int intLinesPerLevel = 1 + 10 * intLinesPerEntry;
-constexpr int intLockMilliseconds = 5000;
+constexpr int intLockMilliseconds = 2000;
 
 using Lines = std::vector<std::string_view>;
 using HallOfFame = Numbered<LevelEntries, intLevelCount>;
@@ -81,7 +81,8 @@ bool ReadLevel(const Lines& lines, int intLevel, LevelEntries& entries) {
 
 bool ReadLevels(std::string_view strBytes, HallOfFame& hallOfFame) {
     const Lines lines = SplitLines(strBytes);
-    bool blnInForm = lines.size() == static_cast<std::size_t>(intLevelCount * intLinesPerLevel);
+    bool blnInForm = strBytes.ends_with('\n') &&
+                     lines.size() == static_cast<std::size_t>(intLevelCount * intLinesPerLevel);
     for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
         blnInForm &= ReadLevel(lines, intLevel, hallOfFame[intLevel]);
     return blnInForm;
@@ -122,34 +123,56 @@ void InsertEntry(LevelEntries& entries, int intRank, HallOfFameEntry entry) {
         std::swap(entries[i], entry);
 }
 
-/// Reads the file, keeps a copy of a damaged one, and replaces it by what `fnEdit` makes of it,
-/// all inside the lock.
-template <typename Edit>
-std::optional<std::string> RewriteHallOfFame(const Game& game, Edit fnEdit) {
-    const std::string strFile = GetFilePath(game);
-    FileLock lock(strFile);
-    if (!lock.TryLock(intLockMilliseconds))
-        return "Another copy of the program, or a folder that cannot be written, keeps the file "
-               "\"hof.clh\" locked.";
-    HallOfFame hallOfFame;
-    if (PathExists(strFile)) {
-        const auto bytes = ReadWholeFile(strFile, intMaxFileSize);
-        if (!bytes)
-            return "The file \"hof.clh\" cannot be read.";
-        if (!ReadLevels(*bytes, hallOfFame)) {
-            if (auto reason = ReplaceFile(strFile + ".damaged", *bytes))
-                return reason;
-        }
-    }
-    fnEdit(hallOfFame);
-    return ReplaceFile(strFile, FormatHallOfFame(hallOfFame));
-}
-
 HallOfFame MakeEmptyHallOfFame() {
     HallOfFame hallOfFame;
     for (LevelEntries& entries : hallOfFame)
         entries.fill({std::string(strNoName), 99, 99, 99});
     return hallOfFame;
+}
+
+/// Copies a file that is not in form beside it; an earlier copy stays.
+std::optional<std::string> KeepDamagedFile(const std::string& strFile, std::string_view bytes) {
+    std::string strCopy = strFile + ".damaged";
+    for (int intCopy = 2; PathExists(strCopy); ++intCopy)
+        strCopy = strFile + ".damaged-" + std::to_string(intCopy);
+    return ReplaceFile(strCopy, bytes);
+}
+
+/// Reads the file for rewriting. A missing one counts as empty; a damaged one is kept first.
+std::optional<std::string> ReadForRewriting(const std::string& strFile, HallOfFame& hallOfFame) {
+    if (!PathExists(strFile)) {
+        hallOfFame = MakeEmptyHallOfFame();
+        return std::nullopt;
+    }
+    const auto bytes = ReadWholeFile(strFile, intMaxFileSize);
+    if (!bytes)
+        return "The file \"hof.clh\" cannot be read.";
+    return ReadLevels(*bytes, hallOfFame) ? std::nullopt : KeepDamagedFile(strFile, *bytes);
+}
+
+/// Replaces the file by what `fnEdit` makes of it, all inside the lock.
+template <typename Edit>
+std::optional<std::string> RewriteHallOfFame(const Game& game, Edit fnEdit) {
+    const std::string strFile = GetFilePath(game);
+    FileLock lock(strFile);
+    if (!lock.TryLock(intLockMilliseconds))
+        return lock.IsHeldElsewhere()
+                   ? "Another copy of the program is using the file \"hof.clh\"."
+                   : "The folder of the file \"hof.clh\" cannot be written, or its disk is full.";
+    HallOfFame hallOfFame;
+    if (auto reason = ReadForRewriting(strFile, hallOfFame))
+        return reason;
+    fnEdit(hallOfFame);
+    return ReplaceFile(strFile, FormatHallOfFame(hallOfFame));
+}
+
+/// The same, with the hourglass meanwhile: another copy may hold the lock for a moment.
+template <typename Edit>
+std::optional<std::string> RewriteUnderHourglass(const Game& game, Edit fnEdit) {
+    game.desktop.SetMousePointer(MousePointer::Hourglass);
+    auto reason = RewriteHallOfFame(game, fnEdit);
+    game.desktop.SetMousePointer(MousePointer::Default);
+    return reason;
 }
 
 } // namespace
@@ -183,8 +206,8 @@ std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::stri
 }
 
 std::optional<std::string> ResetHallOfFame(const Game& game) {
-    return RewriteHallOfFame(game,
-                             [](HallOfFame& hallOfFame) { hallOfFame = MakeEmptyHallOfFame(); });
+    return RewriteUnderHourglass(
+        game, [](HallOfFame& hallOfFame) { hallOfFame = MakeEmptyHallOfFame(); });
 }
 
 std::int16_t GetHighestRecordedLevel(const Game& game) {

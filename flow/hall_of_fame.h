@@ -37,7 +37,7 @@ std::int16_t GetRank(const Game& game);
 
 /// Inserts the current game under that name at the rank its time has now, and rewrites the file
 /// whole, under a lock shared by all running copies. A damaged file is kept beside it first, as
-/// "hof.clh.damaged". Nothing is returned on success, else the reason in one sentence; the file is
+/// "hof.clh.damaged"; a missing one counts as empty. Nothing is returned on success, else the reason in one sentence; the file is
 /// then as it was. The name holds no double quote and no line break.
 std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::string& strName);
 

@@ -22,20 +22,10 @@ constexpr KeyAction aKeyActions[] = {
     {intKeyDown, CursorDown},
 };
 
-/// The digit 1 to 9 of a key, 0 for every other key.
-int GetKeyDigit(std::int16_t intKeyCode) {
-    for (const std::int16_t intFirst : {intKeyDigit1, intKeyKeypad1}) {
-        if (intKeyCode >= intFirst && intKeyCode < intFirst + 9)
-            return intKeyCode - intFirst + 1;
-    }
-    return 0;
-}
-
 void DoKeyAction(Game& game, std::int16_t intKeyCode) {
-    for (const KeyAction& action : aKeyActions) {
+    for (const KeyAction& action : aKeyActions)
         if (action.intKeyCode == intKeyCode)
             action.fnAction(game);
-    }
     if (GetKeyDigit(intKeyCode) != 0)
         DoCellEntry(game, intKeyCode);
 }
@@ -49,6 +39,14 @@ void PlaceSelectedNumber(Game& game, Cell& cell) {
 }
 
 } // namespace
+
+int GetKeyDigit(std::int16_t intKeyCode) {
+    for (const std::int16_t intFirst : {intKeyDigit1, intKeyKeypad1}) {
+        if (intKeyCode >= intFirst && intKeyCode < intFirst + 9)
+            return intKeyCode - intFirst + 1;
+    }
+    return 0;
+}
 
 void CellClick(Game& game, int intIndex, MouseButton button) {
     MoveCursor(game, intIndex);

@@ -22,6 +22,9 @@ inline constexpr std::int16_t intKeyDelete = 46;
 inline constexpr std::int16_t intKeyDigit1 = 49;
 inline constexpr std::int16_t intKeyKeypad1 = 97;
 
+/// The digit 1 to 9 of a key, 0 for every other key.
+int GetKeyDigit(std::int16_t intKeyCode);
+
 /// A mouse release over cell 1 to 81: moves the cursor there, and opens the cell popup (right
 /// button) or puts the selected number into the cell (other buttons, while the number selector is
 /// on). The caller has made sure that the grid is enabled.

@@ -28,10 +28,9 @@ void ResetNumberedEntries(Game& game) {
 }
 
 void OfferRemovals(Game& game, std::string_view strNotes) {
-    for (const char character : strNotes.substr(0, intFullLength)) {
+    for (const char character : strNotes.substr(0, intFullLength))
         if (const int intDigit = GetDigitValue(character); intDigit != 0)
             game.mnuC[intDigit].strCaption = GetRemovalCaption(intDigit);
-    }
 }
 
 void HideAdditions(Game& game) {
@@ -46,6 +45,7 @@ void FollowNumberedEntries(Game& game) {
         game.mnuA[intDigit].blnVisible =
             intDigit == game.intSelectedNumber && game.mnuC[intDigit].blnVisible;
     }
+    game.mnuAsepVisible = game.intSelectedNumber >= 1 && game.intSelectedNumber <= 9;
 }
 
 void SetNotes(Game& game, std::string strNotes) {
@@ -83,12 +83,11 @@ void CandidateAdd(Game& game, int intDigit) {
 void CandidateRemove(Game& game, int intDigit) {
     const std::string& strOld = game.cells[game.intCursorCell].strNotes;
     std::string strNotes;
-    for (std::size_t n = 0; n < strOld.size(); ++n) {
+    for (std::size_t n = 0; n < strOld.size(); ++n)
         if (GetDigitValue(strOld[n]) == intDigit)
             ++n; // its blank goes with it
         else
             strNotes += strOld[n];
-    }
     if (Trim(strNotes).empty())
         strNotes.clear();
     SetNotes(game, std::move(strNotes));

@@ -9,9 +9,8 @@ namespace {
 
 std::filesystem::file_status GetStatus(const std::string& strPath) {
     // The system would silently take a path up to its first zero byte.
-    if (strPath.find('\0') != std::string::npos) {
+    if (strPath.find('\0') != std::string::npos)
         return std::filesystem::file_status(std::filesystem::file_type::not_found);
-    }
     try {
         std::error_code error;
         return std::filesystem::status(std::u8string(strPath.begin(), strPath.end()), error);
@@ -34,16 +33,14 @@ bool PathExists(std::string strPath) {
 
 std::string GetFolderFromPath(std::string strPath) {
     std::size_t intLast = strPath.rfind('/');
-    if (intLast == std::string::npos) {
+    if (intLast == std::string::npos)
         intLast = strPath.rfind('\\');
-    }
     return intLast == std::string::npos ? std::string() : strPath.substr(0, intLast + 1);
 }
 
 std::string JoinPath(const std::string& strFolder, const std::string& strName) {
-    if (GetFolderFromPath(strFolder) == strFolder) {
+    if (GetFolderFromPath(strFolder) == strFolder)
         return strFolder + strName;
-    }
     return strFolder + "/" + strName;
 }
 

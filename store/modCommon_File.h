@@ -2,22 +2,22 @@
 
 #include <string>
 
-// Questions about paths. Paths are UTF-8; none of these routines raises an error.
+/// Questions about paths. Paths are UTF-8; none of these routines raises an error.
 namespace cellora {
 
-// True for an existing path that is not a folder. False for a missing, malformed or empty path and
-// for one that cannot be examined.
+/// True for an existing path that is not a folder. False for a missing, malformed or empty path and
+/// for one that cannot be examined.
 bool FileExists(std::string strPath);
 
-// True for any existing path, folder or file; false as in `FileExists`.
+/// True for any existing path, folder or file; false as in `FileExists`.
 bool PathExists(std::string strPath);
 
-// The path up to and including its last "/", or its last backslash when it holds no "/". Empty text
-// when it holds neither.
+/// The path up to and including its last "/", or its last backslash when it holds no "/". Empty
+/// text when it holds neither.
 std::string GetFolderFromPath(std::string strPath);
 
-// The path of `strName` inside `strFolder`, which may or may not end with a separator. An empty
-// folder gives the bare name.
+/// The path of `strName` inside `strFolder`, which may or may not end with a separator. An empty
+/// folder gives the bare name.
 std::string JoinPath(const std::string& strFolder, const std::string& strName);
 
 } // namespace cellora

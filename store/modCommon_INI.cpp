@@ -36,12 +36,10 @@ bool IsLineEnd(char c) {
 }
 
 std::string_view TrimBlanks(std::string_view strText) {
-    while (!strText.empty() && IsBlank(strText.front())) {
+    while (!strText.empty() && IsBlank(strText.front()))
         strText.remove_prefix(1);
-    }
-    while (!strText.empty() && IsBlank(strText.back())) {
+    while (!strText.empty() && IsBlank(strText.back()))
         strText.remove_suffix(1);
-    }
     return strText;
 }
 
@@ -65,9 +63,8 @@ std::size_t FindLineEnd(std::string_view strText, std::size_t lngBegin) {
 
 std::optional<std::string_view> GetSectionName(std::string_view strLine) {
     const std::size_t lngClose = strLine.find(']');
-    if (!strLine.starts_with('[') || lngClose == std::string_view::npos) {
+    if (!strLine.starts_with('[') || lngClose == std::string_view::npos)
         return std::nullopt;
-    }
     return TrimBlanks(strLine.substr(1, lngClose - 1));
 }
 
@@ -77,13 +74,11 @@ bool MatchKey(std::string_view strText, std::size_t lngBegin, std::size_t lngEnd
     const std::string_view strLine = strText.substr(lngBegin, lngEnd - lngBegin);
     const std::size_t lngEquals = strLine.find('=');
     if (lngEquals == std::string_view::npos || TrimBlanks(strLine).starts_with(';') ||
-        !EqualsIgnoringCase(TrimBlanks(strLine.substr(0, lngEquals)), strKey)) {
+        !EqualsIgnoringCase(TrimBlanks(strLine.substr(0, lngEquals)), strKey))
         return false;
-    }
     place.lngValueBegin = lngBegin + lngEquals + 1;
-    while (place.lngValueBegin < lngEnd && IsBlank(strText[place.lngValueBegin])) {
+    while (place.lngValueBegin < lngEnd && IsBlank(strText[place.lngValueBegin]))
         ++place.lngValueBegin;
-    }
     place.lngValueEnd = lngEnd;
     return true;
 }
@@ -95,22 +90,19 @@ Place FindPlace(std::string_view strText, std::string_view strSection, std::stri
         const std::size_t lngNext = lngEnd + GetLineEnd(strText, lngEnd).size();
         const std::string_view strLine = TrimBlanks(strText.substr(lngBegin, lngEnd - lngBegin));
         if (const auto strName = GetSectionName(strLine)) {
-            if (place.blnSectionFound) {
+            if (place.blnSectionFound)
                 return place;
-            }
             place.blnSectionFound = EqualsIgnoringCase(*strName, strSection);
         } else if (place.blnSectionFound && MatchKey(strText, lngBegin, lngEnd, strKey, place)) {
             place.blnKeyFound = true;
             return place;
         }
-        if (place.blnSectionFound && !strLine.empty()) {
+        if (place.blnSectionFound && !strLine.empty())
             place.lngInsertAt = lngNext;
-        }
         lngBegin = lngNext;
     }
-    if (!place.blnSectionFound) {
+    if (!place.blnSectionFound)
         place.lngInsertAt = strText.size();
-    }
     return place;
 }
 
@@ -123,17 +115,15 @@ std::size_t GetCharacterSize(std::string_view strText) {
                                                     : 4;
     std::size_t lngSize = 1;
     while (lngSize < std::min(lngWanted, strText.size()) &&
-           (static_cast<unsigned char>(strText[lngSize]) & 0xC0) == 0x80) {
+           (static_cast<unsigned char>(strText[lngSize]) & 0xC0) == 0x80)
         ++lngSize;
-    }
     return lngSize;
 }
 
 std::string_view CutToLimit(std::string_view strText) {
     std::size_t lngSize = 0;
-    for (std::size_t n = 0; n < lngMaxCharacters && lngSize < strText.size(); ++n) {
+    for (std::size_t n = 0; n < lngMaxCharacters && lngSize < strText.size(); ++n)
         lngSize += GetCharacterSize(strText.substr(lngSize));
-    }
     return strText.substr(0, lngSize);
 }
 
@@ -166,12 +156,10 @@ std::string SetValue(std::string_view strText, const std::string& strSection,
     const std::string_view strFirstEnd = GetLineEnd(strText, FindLineEnd(strText, 0));
     const std::string strLineEnd(strFirstEnd.empty() ? "\r\n" : strFirstEnd);
     strResult.append(strText.substr(0, place.lngInsertAt));
-    if (place.lngInsertAt > 0 && !IsLineEnd(strText[place.lngInsertAt - 1])) {
+    if (place.lngInsertAt > 0 && !IsLineEnd(strText[place.lngInsertAt - 1]))
         strResult.append(strLineEnd);
-    }
-    if (!place.blnSectionFound) {
+    if (!place.blnSectionFound)
         strResult.append("[" + strSection + "]" + strLineEnd);
-    }
     strResult.append(strKey + "=" + GetStoredForm(strValue) + strLineEnd);
     return strResult.append(strText.substr(place.lngInsertAt));
 }
@@ -181,9 +169,8 @@ std::string SetValue(std::string_view strText, const std::string& strSection,
 std::string ReadINI(const std::string& strSection, const std::string& strKey,
                     const std::string& strPath) {
     const std::optional<std::string> strFile = ReadWholeFile(strPath, lngAnySize);
-    if (!strFile) {
+    if (!strFile)
         return {};
-    }
     std::string_view strText = *strFile;
     SplitByteOrderMark(strText);
     const Place place = FindPlace(strText, strSection, strKey);
@@ -195,18 +182,15 @@ std::string ReadINI(const std::string& strSection, const std::string& strKey,
 void WriteINI(const std::string& strSection, const std::string& strKey, const std::string& strValue,
               const std::string& strPath) {
     if (!IsWritableName(strSection, "\r\n]") || !IsWritableName(strKey, "\r\n=[;") ||
-        strValue.find_first_of("\r\n") != std::string::npos) {
+        strValue.find_first_of("\r\n") != std::string::npos)
         return;
-    }
     const std::optional<std::string> strFile = ReadWholeFile(strPath, lngAnySize);
     // A file that is there but cannot be read must not be replaced by one that holds a single key.
-    if (!strFile && PathExists(strPath)) {
+    if (!strFile && PathExists(strPath))
         return;
-    }
     const std::string strText = SetValue(strFile.value_or(""), strSection, strKey, strValue);
-    if (strText != strFile) {
+    if (strText != strFile)
         ReplaceFile(strPath, strText);
-    }
 }
 
 } // namespace cellora

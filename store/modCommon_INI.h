@@ -2,31 +2,31 @@
 
 #include <string>
 
-// Single values of a text file of sections, keys and values:
+/// Single values of a text file of sections, keys and values:
 //
-//     ; a comment
-//     [section]
-//     key=value
+///     ; a comment
+///     [section]
+///     key=value
 //
-// Section and key names match without regard to ASCII case; the first section of a name and the
-// first key of a name in it count. Blanks around names and values do not belong to them. Paths and
-// texts are UTF-8, with or without a byte order mark; lines end with CR LF, LF or CR. There is no
-// limit to the size of the file and no copy of it in memory between calls.
+/// Section and key names match without regard to ASCII case; the first section of a name and the
+/// first key of a name in it count. Blanks around names and values do not belong to them. Paths and
+/// texts are UTF-8, with or without a byte order mark; lines end with CR LF, LF or CR. There is no
+/// limit to the size of the file and no copy of it in memory between calls.
 namespace cellora {
 
-// The value without the pair of quotes (" or ') that may enclose it, cut to its first 254
-// characters. Empty text when the file, the section or the key does not exist.
+/// The value without the pair of quotes (" or ') that may enclose it, cut to its first 254
+/// characters. Empty text when the file, the section or the key does not exist.
 std::string ReadINI(const std::string& strSection, const std::string& strKey,
                     const std::string& strPath);
 
-// Stores the value and writes the file through to disk, whole, unless it already holds exactly
-// these bytes. An existing value is replaced in its line; a new key goes behind the last line of
-// its section that is not blank, a new section to the end of the file, both with the line ending of
-// the file's first line (CR LF when there is none). Every other byte of the file stays. A value
-// that reading would change (a blank at an end, a pair of quotes) is stored in double quotes.
-// Nothing happens, and nothing is reported, when the file cannot be written, when it exists but
-// cannot be read, and when a text could not be read back: one with a line break, an empty name, a
-// section with "]", a key with "=", "[" or ";", a name with blanks around it.
+/// Stores the value and writes the file through to disk, whole, unless it already holds exactly
+/// these bytes. An existing value is replaced in its line; a new key goes behind the last line of
+/// its section that is not blank, a new section to the end of the file, both with the line ending
+/// of the file's first line (CR LF when there is none). Every other byte of the file stays. A value
+/// that reading would change (a blank at an end, a pair of quotes) is stored in double quotes.
+/// Nothing happens, and nothing is reported, when the file cannot be written, when it exists but
+/// cannot be read, and when a text could not be read back: one with a line break, an empty name, a
+/// section with "]", a key with "=", "[" or ";", a name with blanks around it.
 void WriteINI(const std::string& strSection, const std::string& strKey, const std::string& strValue,
               const std::string& strPath);
 

@@ -4,28 +4,28 @@
 #include <string>
 #include <string_view>
 
-// Where the program keeps its files. Paths are UTF-8.
+/// Where the program keeps its files. Paths are UTF-8.
 namespace cellora {
 
-// A file as it is shipped with the program. The texts belong to the caller.
+/// A file as it is shipped with the program. The texts belong to the caller.
 struct ShippedFile {
     std::string_view strName;
     std::string_view strContent;
 };
 
-// The program's own folder inside the user's data: `$XDG_DATA_HOME/cellora` or
-// `~/.local/share/cellora`, on Windows `%LOCALAPPDATA%\Cellora`. Empty when the environment names
-// no such place. Nothing is created.
+/// The program's own folder inside the user's data: `$XDG_DATA_HOME/cellora` or
+/// `~/.local/share/cellora`, on Windows `%LOCALAPPDATA%\Cellora`. Empty when the environment names
+/// no such place. Nothing is created.
 std::string GetUserDataFolder();
 
-// The folder of the settings and hall-of-fame files, without a separator at its end: the folder of
-// the running program when a file can be created there, else `strUserDataFolder`, made when
-// missing. When there is no user's folder either, the program's folder all the same.
+/// The folder of the settings and hall-of-fame files, without a separator at its end: the folder of
+/// the running program when a file can be created there, else `strUserDataFolder`, made when
+/// missing. When there is no user's folder either, the program's folder all the same.
 std::string GetProgramFolder(const std::string& strExecutableFolder,
                              const std::string& strUserDataFolder);
 
-// Puts every shipped file that is missing into the folder. What exists is never touched, not even
-// when another copy of the program starts at the same moment; failures are ignored.
+/// Puts every shipped file that is missing into the folder. What exists is never touched, not even
+/// when another copy of the program starts at the same moment; failures are ignored.
 void PlaceShippedFiles(const std::string& strFolder, std::span<const ShippedFile> files);
 
 } // namespace cellora

@@ -18,9 +18,8 @@ namespace {
 bool WriteAll(QSaveFile& file, std::string_view bytes) {
     while (!bytes.empty()) {
         const qint64 lngWritten = file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-        if (lngWritten <= 0) {
+        if (lngWritten <= 0)
             return false;
-        }
         bytes.remove_prefix(static_cast<std::size_t>(lngWritten));
     }
     return true;
@@ -33,9 +32,8 @@ std::optional<std::string> ReplaceFile(const std::string& strPath, std::string_v
     file.setDirectWriteFallback(false);
     // Unbuffered, because a short write of the buffer would go unnoticed.
     if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteAll(file, bytes) &&
-        file.commit()) {
+        file.commit())
         return std::nullopt;
-    }
     return "\"" + strPath + "\" could not be written: " + file.errorString().toStdString() + ".";
 }
 
@@ -43,24 +41,25 @@ std::optional<std::string> ReadWholeFile(const std::string& strPath, std::size_t
     QFile file(QString::fromStdString(strPath));
     // Opening a pipe or a device could wait for ever.
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) ||
-        std::cmp_greater(file.size(), lngMaxBytes)) {
+        std::cmp_greater(file.size(), lngMaxBytes))
         return std::nullopt;
-    }
     const QByteArray bytes = file.readAll();
     // The file may have grown since its size was asked.
-    if (file.error() != QFileDevice::NoError || std::cmp_greater(bytes.size(), lngMaxBytes)) {
+    if (file.error() != QFileDevice::NoError || std::cmp_greater(bytes.size(), lngMaxBytes))
         return std::nullopt;
-    }
     return bytes.toStdString();
 }
 
 struct FileLock::Impl {
-    explicit Impl(const std::string& strPath) : lock(QString::fromStdString(strPath + ".lock")) {}
+    explicit Impl(const std::string& strPath) : lock(QString::fromStdString(strPath + ".lock")) {
+        // However long a living holder keeps the lock, it is not taken from it.
+        lock.setStaleLockTime(0);
+    }
 
     QLockFile lock;
 };
 
-FileLock::FileLock(const std::string& strPath) : m_impl(std::make_unique<Impl>(strPath)) {}
+FileLock::FileLock(const std::string& strPath) : impl_(std::make_unique<Impl>(strPath)) {}
 
 FileLock::~FileLock() = default;
 
@@ -69,13 +68,16 @@ bool FileLock::TryLock(int msTimeout) {
     const Clock::time_point deadline = Clock::now() + std::chrono::milliseconds(msTimeout);
     // QLockFile's own waiting doubles its pauses up to seconds, which starves a copy of the program
     // beside one that takes the lock often.
-    while (!m_impl->lock.tryLock(0)) {
-        if (m_impl->lock.error() != QLockFile::LockFailedError || Clock::now() >= deadline) {
+    while (!impl_->lock.tryLock(0)) {
+        if (impl_->lock.error() != QLockFile::LockFailedError || Clock::now() >= deadline)
             return false;
-        }
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     return true;
+}
+
+bool FileLock::IsHeldElsewhere() const {
+    return impl_->lock.error() == QLockFile::LockFailedError;
 }
 
 } // namespace cellora

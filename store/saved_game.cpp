@@ -115,22 +115,19 @@ private:
 bool ReadCell(Reader& reader, SavedCell& cell) {
     if (!reader.CellNumber() || !reader.Truth(cell.blnGiven))
         return false;
-    for (const auto text : aCellTexts) {
+    for (const auto text : aCellTexts)
         if (!reader.Text(cell.*text))
             return false;
-    }
     return true;
 }
 
 bool ReadStatistics(Reader& reader, SavedGame& savedGame) {
-    for (const auto& counter : aCounters) {
+    for (const auto& counter : aCounters)
         if (!reader.Number(savedGame.*counter.saved))
             return false;
-    }
-    for (const auto& caption : aCaptions) {
+    for (const auto& caption : aCaptions)
         if (!reader.Text(savedGame.*caption.saved))
             return false;
-    }
     return true;
 }
 
@@ -157,10 +154,9 @@ std::optional<SavedGame> ParseSavedGame(std::string_view bytes) {
     SavedGame savedGame;
     if (!ReadStatistics(reader, savedGame))
         return std::nullopt;
-    for (SavedCell& cell : savedGame.cells) {
+    for (SavedCell& cell : savedGame.cells)
         if (!ReadCell(reader, cell))
             return std::nullopt;
-    }
     if (!reader.IsAtEnd())
         return std::nullopt;
     return savedGame;

@@ -8,10 +8,10 @@
 
 #include "core/modCellora.h"
 
-// What a saved-game file holds, and its form: 413 lines of one value each (docs/file-formats.md).
+/// What a saved-game file holds, and its form: 413 lines of one value each (docs/file-formats.md).
 namespace cellora {
 
-// A larger file is no saved game.
+/// A larger file is no saved game.
 inline constexpr std::size_t lngMaxSavedGameBytes = std::size_t{1} << 20U;
 
 struct SavedCell {
@@ -23,8 +23,8 @@ struct SavedCell {
     bool operator==(const SavedCell&) const = default;
 };
 
-// The part of a game that outlives the program. Texts of an opened file stand as they were written:
-// a level, count, digit or note may be any bytes but a line feed.
+/// The part of a game that outlives the program. Texts of an opened file stand as they were
+/// written: a level, count, digit or note may be any bytes but a line feed.
 struct SavedGame {
     std::int32_t lngHours = 0;
     std::int32_t lngMinutes = 0;
@@ -39,21 +39,21 @@ struct SavedGame {
     bool operator==(const SavedGame&) const = default;
 };
 
-// The bytes of the file. Expects texts without a line feed; every such game reads back the same.
+/// The bytes of the file. Expects texts without a line feed; every such game reads back the same.
 std::string FormatSavedGame(const SavedGame& savedGame);
 
-// Nothing unless the bytes are exactly the 413 values in their order and form: numbers of 32 bits
-// (of 16 bits for the cell numbers, quoted or not, whose values are ignored), texts in double
-// quotes, #TRUE# or #FALSE#. A text reaches from the first to the last quote of its line. Lines end
-// with CR LF or LF, the last one may lack its end, and empty lines may follow it.
+/// Nothing unless the bytes are exactly the 413 values in their order and form: numbers of 32 bits
+/// (of 16 bits for the cell numbers, quoted or not, whose values are ignored), texts in double
+/// quotes, #TRUE# or #FALSE#. A text reaches from the first to the last quote of its line. Lines
+/// end with CR LF or LF, the last one may lack its end, and empty lines may follow it.
 std::optional<SavedGame> ParseSavedGame(std::string_view bytes);
 
-// The record of the game on the board.
+/// The record of the game on the board.
 SavedGame TakeGame(const Game& game);
 
-// Puts the record on the board: its clock counters, cells and statistics replace those of the game,
-// entries are shown and outlines are thin. Wrong marks, the shown time and whether a game is active
-// or changed are left to the caller.
+/// Puts the record on the board: its clock counters, cells and statistics replace those of the
+/// game, entries are shown and outlines are thin. Wrong marks, the shown time and whether a game is
+/// active or changed are left to the caller.
 void PutGame(Game& game, const SavedGame& savedGame);
 
 } // namespace cellora

@@ -87,21 +87,18 @@ struct LeadingNumber {
 };
 
 std::optional<LeadingNumber> ParseLeadingNumber(std::string_view strText) {
-    if (strText.starts_with('+')) {
+    if (strText.starts_with('+'))
         strText.remove_prefix(1);
-    }
     // Words such as "inf" are numbers to the library, but not to a player.
     const std::size_t lngDigit = strText.starts_with('-') ? 1 : 0;
     constexpr std::string_view strStarts = "0123456789.";
-    if (lngDigit >= strText.size() || strStarts.find(strText[lngDigit]) == strStarts.npos) {
+    if (lngDigit >= strText.size() || strStarts.find(strText[lngDigit]) == strStarts.npos)
         return std::nullopt;
-    }
     LeadingNumber number;
     const char* const end = strText.data() + strText.size();
     const std::from_chars_result result = std::from_chars(strText.data(), end, number.dblValue);
-    if (result.ec != std::errc()) {
+    if (result.ec != std::errc())
         return std::nullopt;
-    }
     number.strRest = strText.substr(static_cast<std::size_t>(result.ptr - strText.data()));
     return number;
 }
@@ -124,13 +121,11 @@ void WriteColor(ColorKey key, std::int32_t lngColor, const std::string& strPath)
 
 bool ReadViewFlag(ViewFlag flag, const std::string& strPath) {
     const std::string strValue = Read(GetSetting(flag), strPath);
-    if (EqualsIgnoringCase(strValue, "True") || EqualsIgnoringCase(strValue, "False")) {
+    if (EqualsIgnoringCase(strValue, "True") || EqualsIgnoringCase(strValue, "False"))
         return EqualsIgnoringCase(strValue, "True");
-    }
     const std::optional<LeadingNumber> number = ParseLeadingNumber(strValue);
-    if (number && number->strRest.empty()) {
+    if (number && number->strRest.empty())
         return number->dblValue != 0;
-    }
     return GetSetting(flag).lngDefault != 0;
 }
 

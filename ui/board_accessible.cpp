@@ -1,6 +1,5 @@
 #include "ui/board_accessible.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
 
 #include "core/text.h"
@@ -196,7 +195,7 @@ void InstallBoardAccessibility() {
 }
 
 void BoardAnnouncer::Announce() {
-    if (!QAccessible::isActive() || !view_.isVisible())
+    if (!view_.isVisible())
         return;
     AnnounceNames();
     AnnounceCursor();
@@ -210,7 +209,7 @@ void BoardAnnouncer::AnnounceNames() {
         strNames_[i] = std::move(strName);
         QAccessibleEvent event(&view_, QAccessible::NameChanged);
         event.setChild(i - 1);
-        QAccessible::updateAccessibility(&event);
+        fnTell_(&event);
     }
 }
 
@@ -224,7 +223,7 @@ void BoardAnnouncer::AnnounceCursor() {
             continue;
         QAccessibleEvent event(&view_, type);
         event.setChild(intCell - 1);
-        QAccessible::updateAccessibility(&event);
+        fnTell_(&event);
     }
 }
 

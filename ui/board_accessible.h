@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+
+#include <QAccessible>
 #include <QString>
 
 #include "core/modCellora.h"
@@ -18,10 +21,13 @@ QString GetCellName(const Game& game, int intCell);
 void InstallBoardAccessibility();
 
 /// Tells assistive technology about cells that were renamed and a cursor that moved since the last
-/// call. It remembers the names it told; without assistive technology it does nothing.
+/// call. It remembers the names it told; while the board is hidden it does nothing.
 class BoardAnnouncer final {
 public:
-    explicit BoardAnnouncer(BoardView& view) : view_(view) {}
+    using Teller = std::function<void(QAccessibleEvent*)>;
+
+    explicit BoardAnnouncer(BoardView& view, Teller fnTell = QAccessible::updateAccessibility)
+        : view_(view), fnTell_(std::move(fnTell)) {}
 
     void Announce();
 
@@ -30,6 +36,7 @@ private:
     void AnnounceCursor();
 
     BoardView& view_;
+    Teller fnTell_;
     Numbered<QString, intCellCount> strNames_;
     int intCursorCell_ = 0;
 };

@@ -73,6 +73,10 @@ std::int16_t GetVirtualKey(const QKeyEvent& event) {
     return 0;
 }
 
+bool IsPopupKey(const QKeyEvent& event) {
+    return event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier;
+}
+
 BoardView::BoardView(const Game& game, BoardScene& scene, QWidget* parent)
     : QGraphicsView(&scene, parent), game_(game), scene_(scene) {
     setObjectName(QStringLiteral("picGrid"));
@@ -134,13 +138,22 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void BoardView::keyPressEvent(QKeyEvent* event) {
-    emit keyPressed(GetVirtualKey(*event));
+    if (IsPopupKey(*event))
+        RequestPopup();
+    else
+        emit keyPressed(GetVirtualKey(*event));
 }
 
 void BoardView::contextMenuEvent(QContextMenuEvent* event) {
     // The right mouse button has its say at its release.
     if (event->reason() != QContextMenuEvent::Mouse)
-        emit popupRequested(mapToGlobal(GetCellRect(game_.intCursorCell).center()));
+        RequestPopup();
+}
+
+void BoardView::RequestPopup() {
+    if (!isVisible() || !isEnabled())
+        return;
+    emit popupRequested(mapToGlobal(GetCellRect(game_.intCursorCell).center()));
 }
 
 void BoardView::wheelEvent(QWheelEvent* event) {

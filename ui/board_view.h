@@ -29,6 +29,9 @@ public:
     /// The cell 1 to 81 at a place in the view's pixels, 0 where none takes clicks.
     int GetCellAt(QPoint position) const;
 
+    /// Asks for the cell popup at the cursor cell; a hidden or locked board asks for nothing.
+    void RequestPopup();
+
 signals:
     void cellReleased(int intCell, MouseButton button, QPoint globalPosition);
     void keyPressed(std::int16_t intKeyCode);
@@ -52,5 +55,9 @@ private:
 
 /// The virtual-key code of a key press; 0 for keys that have no meaning on the grid.
 std::int16_t GetVirtualKey(const QKeyEvent& event);
+
+/// Shift+F10, which opens popup menus; the toolkit makes a context-menu event of the Menu key
+/// alone.
+bool IsPopupKey(const QKeyEvent& event);
 
 } // namespace cellora

@@ -2,6 +2,8 @@
 
 #include <QKeyEvent>
 
+#include "play/entry.h"
+#include "ui/board_view.h"
 #include "ui/text.h"
 
 namespace cellora {
@@ -31,8 +33,8 @@ void CellPopup::AddQuickEntries(const Game& game) {
 }
 
 void CellPopup::keyPressEvent(QKeyEvent* event) {
-    const int intDigit = event->key() - Qt::Key_0;
-    if (intDigit < 1 || intDigit > 9) {
+    const int intDigit = GetKeyDigit(GetVirtualKey(*event));
+    if (intDigit == 0) {
         QMenu::keyPressEvent(event);
         return;
     }

@@ -11,6 +11,7 @@
 #include "flow/aids.h"
 #include "flow/clock.h"
 #include "flow/game_file.h"
+#include "flow/recovery.h"
 #include "flow/start_up.h"
 #include "play/cursor.h"
 #include "play/entry.h"
@@ -33,7 +34,8 @@ void frmMain::Do(Command fnCommand) {
     Mirror();
 }
 
-frmMain::frmMain(Game& game, QtDesktop& desktop) : game_(game), desktop_(desktop) {
+frmMain::frmMain(Game& game, QtDesktop& desktop, Recovery& recovery)
+    : game_(game), desktop_(desktop), recovery_(recovery) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(ToQString(strProductName));
     setWindowIcon(MakeIcon(QStringLiteral("cellora")));
@@ -122,11 +124,14 @@ void frmMain::ConnectTimers() {
 void frmMain::OnTick(Timer timer) {
     switch (timer) {
     case Timer::tmr:
+        recovery_.CountTick(game_);
         return Do(tmr_Timer);
     case Timer::tmrCellWait:
         return Do(tmrCellWait_Timer);
     case Timer::tmrCell:
         return Do(tmrCell_Timer);
+    case Timer::tmrRecovery:
+        return recovery_.tmrRecovery_Timer(game_);
     }
 }
 
@@ -143,7 +148,10 @@ void frmMain::OpenPopup(PopupMenu menu) {
 
 void frmMain::Mirror() {
     scene_.Mirror(game_);
+    const bool blnGridThere = picGrid_->isVisible() && picGrid_->isEnabled();
     picGrid_->Mirror();
+    if (!blnGridThere)
+        FocusGrid(); // the window may be active already
     picButtons_->Mirror(game_);
     picStatistics_->Mirror(game_);
     MirrorMenus();
@@ -153,7 +161,9 @@ void frmMain::Mirror() {
         SetBackColor(*picBorder_, lngBorderColor_);
     }
     statusBar()->setVisible(game_.blnStatusBarVisible);
-    announcer_->Announce();
+    if (QAccessible::isActive())
+        announcer_->Announce();
+    recovery_.Observe(game_);
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
@@ -164,6 +174,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
         return;
     }
     UnloadMainWindow(game_);
+    recovery_.Remove();
     event->accept();
     QCoreApplication::exit();
 }
@@ -202,6 +213,10 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 bool frmMain::picBorder_KeyDown(const QKeyEvent& event) {
     if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
         return false;
+    if (IsPopupKey(event)) {
+        picGrid_->RequestPopup();
+        return true;
+    }
     const std::int16_t intKeyCode = GetVirtualKey(event);
     Do([&](Game& game) { DoKeyDown(game, intKeyCode); });
     return true;

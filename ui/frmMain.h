@@ -20,6 +20,7 @@ namespace cellora {
 
 class BoardView;
 class NumberSelector;
+class Recovery;
 class QtDesktop;
 class StatisticsPane;
 
@@ -29,9 +30,9 @@ class frmMain final : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// Loads the settings into the game and builds the window around it. Game and desktop outlive
-    /// the window.
-    frmMain(Game& game, QtDesktop& desktop);
+    /// Loads the settings into the game and builds the window around it. All three outlive the
+    /// window.
+    frmMain(Game& game, QtDesktop& desktop, Recovery& recovery);
     ~frmMain() override;
 
     /// Copies the game into the window's elements. What has not changed costs nothing.
@@ -129,6 +130,7 @@ private:
 
     Game& game_;
     QtDesktop& desktop_;
+    Recovery& recovery_;
     BoardScene scene_;
     std::vector<MenuEntry> menuEntries_;
     std::map<int, QAction*> toolbarButtons_; ///< by their place, 1 to 11

@@ -155,6 +155,7 @@ void frmMain::MakeToolbar() {
         QAction* const action = tbrMain_->addAction(
             MakeIcon(QLatin1String(aPictures[design.intPicture - 1])), strTooltip);
         action->setToolTip(strTooltip);
+        action->setIconText(strTooltip); // the button's accessible name
         connect(action, &QAction::triggered, this,
                 [this, intPicture = design.intPicture] { tbrMain_ButtonClick(intPicture); });
         toolbarButtons_[intPlace] = action;

@@ -166,7 +166,9 @@ void frmTopTen::AddRow(int intRank, const HallOfFameEntry& entry) {
     auto* const row = new QTreeWidgetItem(
         lvwTopTen, {QString::number(intRank), strName, ToQString(FormatEntryTime(entry))});
     row->setSizeHint(columnRank.intIndex, {0, intRowHeight});
-    row->setToolTip(columnName.intIndex, strName.toHtmlEscaped());
+    row->setToolTip(
+        columnName.intIndex,
+        QStringLiteral("<span style='white-space:pre'>%1</span>").arg(strName.toHtmlEscaped()));
     for (const Column& column : aColumns) {
         row->setTextAlignment(column.intIndex, column.alignment | Qt::AlignVCenter);
         if (intRank <= intMedalRanks)

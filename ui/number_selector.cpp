@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "ui/board_view.h"
 #include "ui/look.h"
 #include "ui/pictures.h"
 #include "ui/twips.h"
@@ -30,6 +31,9 @@ NumberSelectorButton::NumberSelectorButton(int intNumber, QWidget* parent)
     setToolTip(blnEraser ? QStringLiteral("Select the eraser")
                          : QStringLiteral("Select the number %1").arg(intNumber));
     setCheckable(true);
+    // The game says which button is checked; assistive technology asks for it by a toggle.
+    connect(this, &QAbstractButton::toggled, this,
+            [this] { emit released(false, GetPopupPosition()); });
     // The keyboard stays with the grid when the mouse is used here.
     setFocusPolicy(Qt::TabFocus);
     setGeometry(ToPixelRect(dblFirstLeft + dblButtonPitch * (intNumber - 1), dblButtonTop,
@@ -37,8 +41,10 @@ NumberSelectorButton::NumberSelectorButton(int intNumber, QWidget* parent)
 }
 
 void NumberSelectorButton::Mirror(const NumberButton& button, bool blnSelected) {
-    if (isChecked() != blnSelected)
+    if (isChecked() != blnSelected) {
+        const QSignalBlocker blocker(this);
         setChecked(blnSelected);
+    }
     if (button.blnShaded != blnShaded_)
         setAccessibleDescription(button.blnShaded ? QStringLiteral("complete") : QString());
     if (button.blnFramed == blnFramed_ && button.blnShaded == blnShaded_)
@@ -86,6 +92,8 @@ void NumberSelectorButton::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
         event->key() == Qt::Key_Enter)
         emit released(false, GetPopupPosition());
+    else if (IsPopupKey(*event))
+        emit released(true, GetPopupPosition());
     else
         event->ignore(); // the border pane hands it to the grid
 }
@@ -96,7 +104,6 @@ void NumberSelectorButton::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void NumberSelectorButton::nextCheckState() {
-    // The game says which button is checked; assistive technology asks through a click.
     emit released(false, GetPopupPosition());
 }
 

@@ -22,8 +22,10 @@ struct TimerDesign {
     int intMilliseconds;
 };
 
-constexpr TimerDesign aTimers[] = {
-    {Timer::tmr, 1000}, {Timer::tmrCellWait, 1000}, {Timer::tmrCell, 40}};
+constexpr TimerDesign aTimers[] = {{Timer::tmr, 1000},
+                                   {Timer::tmrCellWait, 1000},
+                                   {Timer::tmrCell, 40},
+                                   {Timer::tmrRecovery, 1000}};
 
 constexpr const char* strFilter = "Sudoku Files (*.clp);;All Files (*)";
 

@@ -29,7 +29,8 @@ void PlaceFiles(const std::string& strFolder) {
 
 } // namespace
 
-Program::Program(std::string strProgramFolder, std::uint64_t lngRandomState) : game_(desktop_) {
+Program::Program(std::string strProgramFolder, std::uint64_t lngRandomState)
+    : game_(desktop_), recovery_(strProgramFolder) {
     game_.strProgramFolder = std::move(strProgramFolder);
     game_.lngRandomState = lngRandomState;
     game_.fnDoCellCount = DoCellCount;
@@ -47,7 +48,7 @@ void Program::LoadMain() {
     if (main_ == nullptr) {
         PlaceFiles(game_.strProgramFolder);
         InstallBoardAccessibility();
-        main_ = std::make_unique<frmMain>(game_, desktop_);
+        main_ = std::make_unique<frmMain>(game_, desktop_, recovery_);
     }
     main_->setEnabled(false);
     if (!main_->isVisible()) {
@@ -61,6 +62,8 @@ void Program::StartMain() {
     main_->activateWindow();
     if (OpensAtStartup(GetSettingsFile(game_)))
         desktop_.ShowModal(ModalWindow::frmHelp);
+    recovery_.OfferToRestore(game_);
+    main_->Mirror();
 }
 
 } // namespace cellora

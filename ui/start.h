@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "core/modCellora.h"
+#include "flow/recovery.h"
 #include "ui/frmMain.h"
 #include "ui/frmSplash.h"
 #include "ui/qt_desktop.h"
@@ -31,6 +32,7 @@ private:
 
     QtDesktop desktop_;
     Game game_;
+    Recovery recovery_;
     std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<frmMain> main_;
 };

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "played_game.h"
+#include "store/replace_file.h"
 
 namespace cellora {
 namespace {
@@ -232,12 +233,14 @@ TEST(HallOfFame, GivesAReasonAndTouchesNothingWhereItCannotWrite) {
         taken.folder.MakeFolder("program/hof.clh");
         EXPECT_EQ(fnWrite(taken.game), "The file \"hof.clh\" cannot be read.");
 
-        PlayedGame damaged; // the damaged file cannot be kept
+        PlayedGame damaged; // for the second time: the copy kept first stays
         damaged.WriteFile("damaged");
-        damaged.folder.MakeFolder("hof.clh.damaged");
-        EXPECT_TRUE(fnWrite(damaged.game).has_value());
-        EXPECT_EQ(damaged.ReadFile(), "damaged");
-        EXPECT_EQ(damaged.folder.Count(), 2);
+        EXPECT_EQ(fnWrite(damaged.game), std::nullopt);
+        damaged.WriteFile("damaged again");
+        EXPECT_EQ(fnWrite(damaged.game), std::nullopt);
+        const std::string strKept = damaged.folder.Path("hof.clh.damaged");
+        EXPECT_EQ(ReadWholeFile(strKept, 100), "damaged");
+        EXPECT_EQ(ReadWholeFile(strKept + "-2", 100), "damaged again");
     }
 }
 

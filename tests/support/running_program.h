@@ -9,12 +9,14 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 
 #include <gtest/gtest.h>
 
@@ -127,10 +129,17 @@ public:
     }
 
     /// Gives the main window the keyboard, as a window manager does when a window closes; there
-    /// need not be one here.
+    /// need not be one here. Once is not enough: the closed window may still be losing it.
     void Activate() {
-        window().activateWindow();
-        if (!QTest::qWaitForWindowActive(&window()))
+        int intSteady = 0;
+        const bool blnActive = WaitFor([&] {
+            if (!window().isActiveWindow()) {
+                intSteady = 0;
+                window().activateWindow();
+            }
+            return ++intSteady > 3;
+        });
+        if (!blnActive)
             throw std::runtime_error("the main window did not become active");
     }
 
@@ -162,13 +171,26 @@ public:
     frmMain& window() { return *program.mainWindow(); }
     BoardScene& scene() { return window().scene(); }
     BoardView& grid() { return Get<BoardView>("picGrid"); }
-    NumberSelectorButton& button(int n) {
-        return Get<NumberSelector>("picButtons").picButton(n);
-    }
+    NumberSelectorButton& button(int n) { return Get<NumberSelector>("picButtons").picButton(n); }
 
     template <typename Control>
     Control& Get(const char* strName) {
         return GetControl<Control>(window(), strName);
+    }
+
+    QString GetValue(const char* strLabel) { return Get<QLabel>(strLabel).text(); }
+    bool IsShown(const char* strWidget) { return Get<QWidget>(strWidget).isVisible(); }
+    bool IsTicked(const char* strEntry) { return Get<QAction>(strEntry).isChecked(); }
+    bool IsEnabled(const char* strEntry) { return Get<QAction>(strEntry).isEnabled(); }
+
+    /// The toolbar's six buttons, from the left.
+    std::vector<bool> GetToolbarEnabling() {
+        std::vector<bool> enabled;
+        for (const QAction* const action : Get<QToolBar>("tbrMain").actions()) {
+            if (!action->isSeparator())
+                enabled.push_back(action->isEnabled());
+        }
+        return enabled;
     }
 
     /// A menu entry chosen; a disabled one does nothing.
@@ -221,6 +243,14 @@ public:
         }
     }
 
+    /// Fills the grid, at last one cell with a digit of its own; the end of the game opens a
+    /// window.
+    void FinishWith(int intCell, int intDigit) {
+        FillAllBut(intCell);
+        MoveTo(intCell);
+        Type(intDigit);
+    }
+
     /// The colour drawn at a place of the cell that neither digit, notes nor cursor reach.
     QColor GetCellColor(int intCell) {
         const QPoint place = grid().GetCellRect(intCell).topLeft() + QPoint(7, 30);
@@ -238,5 +268,8 @@ public:
     Program program{folder.Path(), 20240229};
     ModalScript modal;
 };
+
+/// A test that uses the program.
+class RunningProgramTest : public testing::Test, protected RunningProgram {};
 
 } // namespace cellora

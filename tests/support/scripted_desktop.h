@@ -61,8 +61,10 @@ public:
     }
 
     void EnableTimer(Timer timer, bool blnEnabled) override {
-        static const std::map<Timer, std::string> names = {
-            {Timer::tmr, "tmr"}, {Timer::tmrCellWait, "tmrCellWait"}, {Timer::tmrCell, "tmrCell"}};
+        static const std::map<Timer, std::string> names = {{Timer::tmr, "tmr"},
+                                                           {Timer::tmrCellWait, "tmrCellWait"},
+                                                           {Timer::tmrCell, "tmrCell"},
+                                                           {Timer::tmrRecovery, "tmrRecovery"}};
         log.push_back(names.at(timer) + (blnEnabled ? " on" : " off"));
         if (!blnEnabled)
             running.erase(timer);

@@ -1,0 +1,66 @@
+#include <benchmark/benchmark.h>
+
+#include "core/levels.h"
+#include "core/modCreateSudoku.h"
+#include "flow/completion.h"
+#include "play/check.h"
+#include "tests/support/literal_generator.h"
+
+namespace cellora {
+namespace {
+
+/// A desktop on which nothing happens; its time stands still.
+class IdleDesktop final : public Desktop {
+public:
+    Answer ShowMessageBox(const MessageBox&) override { return Answer::Ok; }
+    void Beep() override {}
+    void SetMousePointer(MousePointer) override {}
+    void EnableTimer(Timer, bool) override {}
+    void ShowModal(ModalWindow) override {}
+    void UnloadWindow(ModalWindow) override {}
+    void ShowPopup(PopupMenu) override {}
+    std::optional<std::string> PickFile(const FileRequest&) override { return {}; }
+    std::int32_t GetTimeOfDay() override { return 12 * 3600; }
+};
+
+void BM_CreateSolution(benchmark::State& state) {
+    IdleDesktop desktop;
+    Game game(desktop);
+    for ([[maybe_unused]] auto _ : state) {
+        CreateSolution(game);
+        benchmark::DoNotOptimize(game);
+    }
+}
+BENCHMARK(BM_CreateSolution);
+
+void BM_CreateSolutionLiteral(benchmark::State& state) {
+    IdleDesktop desktop;
+    Game game(desktop);
+    LiteralGenerator literal(game);
+    for ([[maybe_unused]] auto _ : state) {
+        literal.CreateSolution();
+        benchmark::DoNotOptimize(game);
+    }
+}
+BENCHMARK(BM_CreateSolutionLiteral);
+
+/// About half the cells are clues or filled, some of them wrong, and errors are shown.
+void BM_PerformCellCheck(benchmark::State& state) {
+    IdleDesktop desktop;
+    Game game(desktop);
+    game.fnDoCellCount = DoCellCount;
+    CreateSolution(game);
+    ShowPartial(game, GetLevelName(20));
+    for (int i = 1; i <= intCellCount; i += 5) {
+        if (!game.cells[i].blnGiven)
+            game.cells[i].strEntry = i % 7 == 0 ? "1" : game.cells[i].strSolution;
+    }
+    for ([[maybe_unused]] auto _ : state) {
+        PerformCellCheck(game);
+        benchmark::DoNotOptimize(game);
+    }
+}
+BENCHMARK(BM_PerformCellCheck);
+
+} // namespace
+} // namespace cellora
