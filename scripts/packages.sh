@@ -24,12 +24,14 @@ install_missing() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# build PRESET: configures where needed and builds; shows the output only when it fails.
+# build PRESET OPTION...: configures where needed and builds with those options of the build tool;
+# shows the output only when it fails.
 build() {
-    local log
+    local preset=$1 log
+    shift
     log=$(mktemp)
-    echo "Building ($1)"
-    if ! { cmake --preset "$1" && cmake --build --preset "$1"; } >"$log" 2>&1; then
+    echo "Building ($preset)"
+    if ! { cmake --preset "$preset" && cmake --build --preset "$preset" "$@"; } >"$log" 2>&1; then
         cat "$log"
         rm -f "$log"
         return 1

@@ -46,7 +46,11 @@ public:
 
     const QString& text() const { return strText_; }
     QColor color() const { return color_; }
-    bool ContainsPoint(QPointF point) const { return rect_.contains(point); }
+    /// A label reaches up to its right and lower edges, but not onto them.
+    bool ContainsPoint(QPointF point) const {
+        return point.x() >= rect_.left() && point.x() < rect_.right() && point.y() >= rect_.top() &&
+               point.y() < rect_.bottom();
+    }
 
 private:
     QRectF rect_;

@@ -141,7 +141,8 @@ void BoardScene::MirrorStacking(const Game& game) {
 }
 
 int BoardScene::GetCellAt(QPointF point) const {
-    for (int i = 1; i <= intCellCount; ++i) {
+    // Where two labels overlap, the one of the later cell lies in front.
+    for (int i = intCellCount; i >= 1; --i) {
         if (lblCell_[i]->ContainsPoint(point) || lblCandidate_[i]->ContainsPoint(point))
             return i;
     }

@@ -1,5 +1,6 @@
 #include "ui/board_view.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -142,6 +143,13 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
         RequestPopup();
     else
         emit keyPressed(GetVirtualKey(*event));
+}
+
+void BoardView::focusInEvent(QFocusEvent* event) {
+    QGraphicsView::focusInEvent(event);
+    QAccessibleEvent focus(this, QAccessible::Focus);
+    focus.setChild(game_.intCursorCell - 1);
+    QAccessible::updateAccessibility(&focus);
 }
 
 void BoardView::contextMenuEvent(QContextMenuEvent* event) {

@@ -47,6 +47,7 @@ frmMain::frmMain(Game& game, QtDesktop& desktop, Recovery& recovery)
     desktop_.Attach(game_, this, [this] { Mirror(); });
     announcer_ = std::make_unique<BoardAnnouncer>(*picGrid_);
     tmrFitting_.setSingleShot(true);
+    connect(&tmrFitting_, &QTimer::timeout, this, &frmMain::tmrFitting_Timer);
     Mirror();
 }
 
@@ -62,6 +63,7 @@ void frmMain::MakeClient() {
     setCentralWidget(client_);
     picMenuShadow_ = new QWidget(client_);
     picMenuShadow_->setObjectName(QStringLiteral("picMenuShadow"));
+    SetBackColor(*picMenuShadow_, lngColorButtonShadow);
     MakeToolbar();
     MakeBorder();
     auto* const sbrMain = new QStatusBar(this);
@@ -73,12 +75,14 @@ void frmMain::MakeClient() {
 void frmMain::MakeBorder() {
     picBorder_ = new QWidget(client_);
     picBorder_->setObjectName(QStringLiteral("picBorder"));
+    // A click beside the grid leaves the keyboard with the grid.
     picBorder_->setFocusPolicy(Qt::ClickFocus);
     picBorder_->installEventFilter(this);
     picStatistics_ = new StatisticsPane(picBorder_);
     picButtons_ = new NumberSelector(picBorder_);
     picGrid_ = new BoardView(game_, scene_, picBorder_);
     picGrid_->hide();
+    picBorder_->setFocusProxy(picGrid_);
     connect(picGrid_, &BoardView::cellReleased, this,
             [this](int intCell, MouseButton button, QPoint position) {
                 popupPosition_ = position;
@@ -158,7 +162,7 @@ void frmMain::Mirror() {
     MirrorToolbar();
     if (lngBorderColor_ != game_.picBorder.lngBackColor) {
         lngBorderColor_ = game_.picBorder.lngBackColor;
-        SetBackColor(*picBorder_, lngBorderColor_);
+        SetBackColor(*picBorder_, *lngBorderColor_);
     }
     statusBar()->setVisible(game_.blnStatusBarVisible);
     if (QAccessible::isActive())
@@ -167,6 +171,10 @@ void frmMain::Mirror() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
+    if (!isEnabled()) { // under the splash
+        event->ignore();
+        return;
+    }
     const bool blnClose = MayClose(game_);
     Mirror();
     if (!blnClose) {

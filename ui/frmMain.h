@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <vector>
 
 #include <QMainWindow>
@@ -115,6 +116,7 @@ private:
     void ChangeView(Change fnChange);
     void WindowNormal();
     void FitWindowToGrid();
+    void tmrFitting_Timer();
     void TickWindowMode(bool blnFit);
 
     /// Whether the key was used up; keys that move the keyboard's focus are not.
@@ -146,7 +148,7 @@ private:
     QMenu* mnuButton_ = nullptr;
     QAction* mnuHighlight_ = nullptr;
     QPoint popupPosition_;
-    Color lngBorderColor_ = -1;
+    std::optional<Color> lngBorderColor_;
 
     /// A command is changing the view; its size changes leave the window mode alone.
     bool blnViewChange_ = false;

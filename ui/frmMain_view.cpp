@@ -19,7 +19,7 @@ constexpr double dblDesignWidth = 8640;
 constexpr double dblDesignHeight = 7980;
 
 /// How long the window system may take to report the sizes of a window that was just fitted.
-constexpr int intFittingMilliseconds = 500;
+constexpr int intFittingMilliseconds = 1000;
 
 /// A size below zero, as in a very small window, leaves the element as it is.
 void PlaceElement(QWidget& widget, const LayoutRect& rect) {
@@ -150,6 +150,14 @@ void frmMain::WindowNormal() {
     TickWindowMode(false);
     showMaximized();
     picBorder_->setUpdatesEnabled(true);
+}
+
+void frmMain::tmrFitting_Timer() {
+    if (!game_.mnuFitWindow.blnChecked)
+        return;
+    // What the window system made of the size asked for is the fitted size from now on.
+    sizeFitted_ = size();
+    CenterOnScreen(*this);
 }
 
 void frmMain::FitWindowToGrid() {

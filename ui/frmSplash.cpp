@@ -64,10 +64,9 @@ void frmSplash::tmrSplash_Timer() {
 void frmSplash::tmrSplash2_Timer() {
     tmrSplash_.stop();
     tmrSplash2_.stop();
-    // The step below may show a modal window; the splash is gone by then.
-    const auto fnStart = steps_.fnStart;
+    steps_.fnEnable();
     close();
-    fnStart();
+    steps_.fnStart();
 }
 
 } // namespace cellora

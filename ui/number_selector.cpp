@@ -129,7 +129,7 @@ void NumberSelector::Mirror(const Game& game) {
         picButton_[n]->Mirror(game.picButton[n], game.intSelectedNumber == n);
     if (lngBackColor_ != game.picButtons.lngBackColor) {
         lngBackColor_ = game.picButtons.lngBackColor;
-        SetBackColor(*this, lngBackColor_);
+        SetBackColor(*this, *lngBackColor_);
     }
     if (isEnabled() != game.picButtons.blnEnabled)
         setEnabled(game.picButtons.blnEnabled);

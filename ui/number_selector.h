@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QAbstractButton>
 
 #include "core/modCellora.h"
@@ -53,7 +55,7 @@ signals:
 
 private:
     Numbered<NumberSelectorButton*, intEraser> picButton_;
-    Color lngBackColor_ = -1;
+    std::optional<Color> lngBackColor_;
 };
 
 /// Gives a pane a plain background.

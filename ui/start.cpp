@@ -40,7 +40,9 @@ Program::~Program() = default;
 
 void Program::Main() {
     splash_ = std::make_unique<frmSplash>(
-        frmSplash::Steps{.fnLoad = [this] { LoadMain(); }, .fnStart = [this] { StartMain(); }});
+        frmSplash::Steps{.fnLoad = [this] { LoadMain(); },
+                         .fnEnable = [this] { main_->setEnabled(true); },
+                         .fnStart = [this] { StartMain(); }});
     splash_->show();
 }
 
@@ -58,7 +60,6 @@ void Program::LoadMain() {
 }
 
 void Program::StartMain() {
-    main_->setEnabled(true);
     main_->activateWindow();
     if (OpensAtStartup(GetSettingsFile(game_)))
         desktop_.ShowModal(ModalWindow::frmHelp);

@@ -104,14 +104,14 @@ void StatisticsPane::Mirror(const Game& game) {
 void StatisticsPane::MirrorColors(const Game& game) {
     if (lngBackColor_ != game.picStatistics.lngBackColor) {
         lngBackColor_ = game.picStatistics.lngBackColor;
-        SetBackColor(*this, lngBackColor_);
+        SetBackColor(*this, *lngBackColor_);
     }
     if (lngText_ != game.boardColors.lngStatisticsText) {
         lngText_ = game.boardColors.lngStatisticsText;
-        SetTextColor(*lblStatistics_, lngText_);
+        SetTextColor(*lblStatistics_, *lngText_);
         for (const Row& row : rows_) {
-            SetTextColor(*row.title, lngText_);
-            SetTextColor(*row.value, lngText_);
+            SetTextColor(*row.title, *lngText_);
+            SetTextColor(*row.value, *lngText_);
         }
     }
     if (lngFrame_ != game.boardColors.lngStatisticsFrame) {

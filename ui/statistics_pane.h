@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QWidget>
 
 #include "core/modCellora.h"
@@ -32,9 +34,9 @@ private:
 
     QLabel* lblStatistics_ = nullptr;
     std::vector<Row> rows_;
-    Color lngFrame_ = -1;
-    Color lngText_ = -1;
-    Color lngBackColor_ = -1;
+    Color lngFrame_ = lngColorWindowText;
+    std::optional<Color> lngText_;
+    std::optional<Color> lngBackColor_;
 };
 
 } // namespace cellora

@@ -152,7 +152,7 @@ TEST_F(ViewTest, DraggingAFittedWindowBringsNormalBack) {
     StartGame();
     Choose("mnuFitWindow");
     // The window system has reported the fitted size by then.
-    QTest::qWait(700);
+    QTest::qWait(1200);
     EXPECT_TRUE(IsTicked("mnuFitWindow"));
     window().resize(window().size() + QSize(40, 30));
     EXPECT_TRUE(WaitFor([this] { return IsTicked("mnuNormal"); }));

@@ -13,7 +13,7 @@ namespace cellora {
 namespace {
 
 TEST(Splash, ShowsVersionAndLegalNoticeInThePicturesSize) {
-    frmSplash splash({.fnLoad = [] {}, .fnStart = [] {}});
+    frmSplash splash({.fnLoad = [] {}, .fnEnable = [] {}, .fnStart = [] {}});
     splash.show();
     EXPECT_EQ(splash.size(), QSize(377, 198));
     const auto& lblVersion = GetControl<QLabel>(splash, "lblVersion");
@@ -36,6 +36,11 @@ TEST(Splash, TheSecondTimerWaitsForTheMainWindow) {
                               log.push_back("load");
                               EXPECT_EQ(shown->tmrSplash2().isActive(), log.size() > 1);
                           },
+                      .fnEnable =
+                          [&] {
+                              EXPECT_TRUE(shown->isVisible());
+                              log.push_back("enable");
+                          },
                       .fnStart =
                           [&] {
                               EXPECT_FALSE(shown->isVisible());
@@ -52,7 +57,7 @@ TEST(Splash, TheSecondTimerWaitsForTheMainWindow) {
     Tick(splash.tmrSplash());
     EXPECT_TRUE(splash.isVisible());
     Tick(splash.tmrSplash2());
-    EXPECT_EQ(log, (std::vector<std::string>{"load", "load", "start"}));
+    EXPECT_EQ(log, (std::vector<std::string>{"load", "load", "enable", "start"}));
     EXPECT_FALSE(splash.tmrSplash().isActive());
     EXPECT_FALSE(splash.tmrSplash2().isActive());
 }
@@ -69,6 +74,7 @@ TEST(Splash, SlowLoadingAndLateTicksDoNotMoveTheEnd) {
                               QThread::msleep(2 * intInterval);
                               sinceShown.start();
                           },
+                      .fnEnable = [] {},
                       .fnStart =
                           [&] {
                               blnStarted = true;
