@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 namespace cellora {
 
@@ -47,6 +47,19 @@ constexpr PaletteEntry aPalette[] = {
     {QPalette::Shadow, 0xFF5B6874, 0xFF5B6874},
 };
 
+/// Fusion, with plain buttons in message boxes as in every other window.
+class ProgramStyle final : public QProxyStyle {
+public:
+    ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
 QPalette MakePalette() {
     QPalette palette;
     for (const PaletteEntry& entry : aPalette) {
@@ -75,7 +88,7 @@ Color ToColor(const QColor& color) {
 }
 
 void ApplyLook(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setPalette(MakePalette());
     application.setFont(MakeFont(8));
 }
