@@ -1,7 +1,7 @@
 # Installs Debian packages that are missing. Sourced by ./run and ./test.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 fonts-liberation2)
-test_packages=(libgtest-dev xvfb xauth openbox x11-utils)
+test_packages=(libgtest-dev xvfb xauth openbox x11-utils poppler-utils)
 
 # install_missing PACKAGE...: names what it installs; silent when nothing is missing.
 install_missing() {

@@ -71,7 +71,7 @@ void frmAbout::MakeComments() {
     txtComments_->setReadOnly(true);
     txtComments_->setTabChangesFocus(true);
     txtComments_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    Place(txtComments_, 105, 300, 5520, 690);
+    Place(txtComments_, 105, 390, 5520, 630);
 }
 
 void frmAbout::MakeLink() {
@@ -102,10 +102,7 @@ void frmAbout::MakeButtons() {
 
 void frmAbout::LoadAboutInfo() {
     setWindowTitle(QStringLiteral("About ") + ToQString(strProductName));
-    lblVersion_->setText(QStringLiteral("Version %1.%2.%3")
-                             .arg(intVersionMajor)
-                             .arg(intVersionMinor)
-                             .arg(intVersionRevision));
+    lblVersion_->setText(QStringLiteral("Version ") + GetVersionText());
     txtComments_->setPlainText(QLatin1String(strComments));
     lblCompany_->setText(QLatin1String(strCompanyName));
     fraComments_->setTitle(QStringLiteral("Information"));
