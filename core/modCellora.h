@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <functional>
 #include <string>
-#include <string_view>
 
 #include "core/cell.h"
 #include "core/desktop.h"
@@ -36,7 +35,6 @@ struct NumberButton {
 struct PopupItem {
     std::string strCaption;
     bool blnVisible = false;
-    bool blnEnabled = true;
 };
 
 /// The main window's toolbar: eleven places, separators among them.

@@ -1,5 +1,6 @@
 #include "flow/aids.h"
 
+#include <limits>
 #include <string>
 
 #include "core/levels.h"
@@ -55,7 +56,7 @@ void RevealCell(Game& game, int intCell) {
 
 void AddPenalty(Game& game) {
     // Opened files may hold counters near the end of their range.
-    if (game.lngSeconds <= 2'147'483'647 - lngPenaltySeconds)
+    if (game.lngSeconds <= std::numeric_limits<std::int32_t>::max() - lngPenaltySeconds)
         game.lngSeconds += lngPenaltySeconds;
     DoTime(game);
 }
@@ -116,7 +117,10 @@ void ToggleSolutionView(Game& game) {
     const bool blnSolution = game.cmdFinished.strCaption == strViewSolution;
     game.cmdFinished.strCaption = blnSolution ? strViewMistakes : strViewSolution;
     for (Cell& cell : game.cells) {
-        blnSolution ? ShowSolutionView(cell) : ShowMistakesView(cell);
+        if (blnSolution)
+            ShowSolutionView(cell);
+        else
+            ShowMistakesView(cell);
         cell.wrongMark.blnOpaque = !blnSolution && cell.IsIncorrect();
         if (cell.wrongMark.blnOpaque)
             cell.wrongMark.lngColor = game.colors.lngColorIncorrectCell;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "core/modCellora.h"
 
 /// The game clock. Its three counters are the only record of the time played.

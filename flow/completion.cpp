@@ -106,8 +106,8 @@ void DoCellCount(Game& game) {
 }
 
 std::int16_t CountMistakes(const Game& game) {
-    return static_cast<std::int16_t>(std::ranges::count_if(
-        game.cells, [](const Cell& cell) { return cell.IsIncorrect(); }));
+    return static_cast<std::int16_t>(
+        std::ranges::count_if(game.cells, [](const Cell& cell) { return cell.IsIncorrect(); }));
 }
 
 } // namespace cellora

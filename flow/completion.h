@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "core/modCellora.h"
 
 /// The counts of the statistics pane and the end of a game.

@@ -1,7 +1,7 @@
 #include "flow/hall_of_fame.h"
 
 #include <charconv>
-#include <memory>
+#include <utility>
 #include <vector>
 
 #include "core/levels.h"
@@ -195,7 +195,7 @@ std::int16_t GetRank(const Game& game) {
 }
 
 std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::string& strName) {
-    return RewriteHallOfFame(game, [&](HallOfFame& hallOfFame) {
+    return RewriteUnderHourglass(game, [&](HallOfFame& hallOfFame) {
         const int intLevel = GetCurrentLevel(game);
         if (intLevel < 1 || intLevel > intLevelCount)
             return;

@@ -37,14 +37,16 @@ std::int16_t GetRank(const Game& game);
 
 /// Inserts the current game under that name at the rank its time has now, and rewrites the file
 /// whole, under a lock shared by all running copies. A damaged file is kept beside it first, as
-/// "hof.clh.damaged"; a missing one counts as empty. Nothing is returned on success, else the reason in one sentence; the file is
-/// then as it was. The name holds no double quote and no line break.
+/// "hof.clh.damaged"; a missing one counts as empty. Nothing is returned on success, else the
+/// reason in one sentence; the file is then as it was. The name holds no double quote and no line
+/// break.
 std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::string& strName);
 
 /// Rewrites the file with empty entries only; results as above.
 std::optional<std::string> ResetHallOfFame(const Game& game);
 
-/// The highest level whose first entry is not empty; 0 when there is none.
+/// The highest level whose first entry is not empty; 0 when there is none. Without a file no entry
+/// reads as empty, which gives 30.
 std::int16_t GetHighestRecordedLevel(const Game& game);
 
 /// Hours, minutes and seconds, each as its last two digits: 3:5:9 reads 03:05:09.

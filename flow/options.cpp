@@ -1,5 +1,7 @@
 #include "flow/options.h"
 
+#include "flow/start_up.h"
+
 #include <string>
 
 #include "play/check.h"
@@ -28,7 +30,7 @@ constexpr ColorSetting aColorSettings[] = {
 };
 
 void SaveOptions(const Game& game, const Options& options) {
-    const std::string strPath = JoinPath(game.strProgramFolder, std::string(strSettingsFileName));
+    const std::string strPath = GetSettingsFile(game);
     for (const ColorSetting& setting : aColorSettings)
         WriteColor(setting.key, options[setting.slot], strPath);
     WriteCursorOption(options.blnDisappearingCursor ? 1 : 0, strPath);

@@ -1,7 +1,5 @@
 #include "flow/recovery.h"
 
-#include <filesystem>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -20,20 +18,6 @@ std::vector<std::string> GetFiles(const std::string& strFolder) {
     for (int intCopy = 2; intCopy <= intMaxCopies; ++intCopy)
         files.push_back(JoinPath(strFolder, "recovery-" + std::to_string(intCopy) + ".clp"));
     return files;
-}
-
-std::filesystem::path ToPath(const std::string& strFile) {
-    return std::u8string(strFile.begin(), strFile.end());
-}
-
-void RemoveFile(const std::string& strFile) {
-    std::error_code ignored;
-    std::filesystem::remove(ToPath(strFile), ignored);
-}
-
-void PutAside(const std::string& strFile) {
-    std::error_code ignored;
-    std::filesystem::rename(ToPath(strFile), ToPath(strFile + ".damaged"), ignored);
 }
 
 bool IsInPlay(const Game& game) {
@@ -107,7 +91,7 @@ void Recovery::OfferToRestore(Game& game) {
     const auto bytes = ReadWholeFile(strFile_, lngMaxSavedGameBytes);
     const auto savedGame = bytes ? ParseSavedGame(*bytes) : std::nullopt;
     if (!savedGame) {
-        PutAside(strFile_);
+        RenameFile(strFile_, strFile_ + ".damaged");
     } else if (AskToRestore(game)) {
         blnWritten_ = true;
         game.strGameFile.clear();

@@ -9,10 +9,10 @@
 
 namespace cellora {
 
-/// Keeps the game in play on disk, so that it comes back after an end without a goodbye: in the form
-/// of a saved game, "recovery.clp" in the program's folder. Each running copy of the program has a
-/// file of its own ("recovery-2.clp" and so on), which it locks while it runs. Where no file can be
-/// locked nothing is kept.
+/// Keeps the game in play on disk, so that it comes back after an end without a goodbye: in the
+/// form of a saved game, "recovery.clp" in the program's folder. Each running copy of the program
+/// has a file of its own ("recovery-2.clp" and so on), which it locks while it runs. Where no file
+/// can be locked nothing is kept.
 class Recovery final {
 public:
     /// Takes the first free file that an earlier copy left behind, else the first free one.

@@ -8,12 +8,12 @@ namespace cellora {
 
 namespace {
 
-struct ColorSlot {
+struct LoadedColor {
     ColorKey key;
     Color ColorSettings::*color;
 };
 
-constexpr ColorSlot aColors[] = {
+constexpr LoadedColor aColors[] = {
     {ColorKey::GridCursor, &ColorSettings::lngColorGridCursor},
     {ColorKey::GridLines, &ColorSettings::lngColorGridLines},
     {ColorKey::FontUser, &ColorSettings::lngColorFontUser},
@@ -53,7 +53,7 @@ void ResetSession(Game& game) {
 
 void LoadColors(Game& game) {
     const std::string strFile = GetSettingsFile(game);
-    for (const ColorSlot& slot : aColors)
+    for (const LoadedColor& slot : aColors)
         game.colors.*slot.color = ReadColor(slot.key, strFile);
     game.picGrid.lngBackColor = ReadColor(ColorKey::GridBackground, strFile);
 }

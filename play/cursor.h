@@ -12,7 +12,7 @@ void DrawCursor(Game& game);
 /// Moves the cursor to a cell 1 to 81 and draws it.
 void MoveCursor(Game& game, int intCell);
 
-// One step in the given direction; the moves wrap around within the row or the column.
+/// One step in the given direction; the moves wrap around within the row or the column.
 void CursorUp(Game& game);
 void CursorDown(Game& game);
 void CursorLeft(Game& game);

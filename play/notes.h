@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "core/modCellora.h"
 
 /// Pencil notes of a cell and the popup that edits them. A note is a digit and a blank; the notes
@@ -18,7 +16,7 @@ void CandidateAdd(Game& game, int intDigit);
 /// Drops every note of that digit from the cursor cell; the others keep their order.
 void CandidateRemove(Game& game, int intDigit);
 
-// The popup's commands; they follow the captions the popup was built with.
+/// The popup's commands; they follow the captions the popup was built with.
 void mnuA_Click(Game& game, int intDigit);
 void mnuC_Click(Game& game, int intDigit);
 void mnuRemoveAll_Click(Game& game);

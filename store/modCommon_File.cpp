@@ -7,17 +7,22 @@ namespace cellora {
 
 namespace {
 
-std::filesystem::file_status GetStatus(const std::string& strPath) {
+/// An empty path for text that names none.
+std::filesystem::path ToPath(const std::string& strPath) {
     // The system would silently take a path up to its first zero byte.
     if (strPath.find('\0') != std::string::npos)
-        return std::filesystem::file_status(std::filesystem::file_type::not_found);
+        return {};
     try {
-        std::error_code error;
-        return std::filesystem::status(std::u8string(strPath.begin(), strPath.end()), error);
+        return std::u8string(strPath.begin(), strPath.end());
     } catch (const std::system_error&) {
         // Where paths are not bytes, text that is not UTF-8 cannot be converted.
-        return std::filesystem::file_status(std::filesystem::file_type::not_found);
+        return {};
     }
+}
+
+std::filesystem::file_status GetStatus(const std::string& strPath) {
+    std::error_code error;
+    return std::filesystem::status(ToPath(strPath), error);
 }
 
 } // namespace
@@ -42,6 +47,16 @@ std::string JoinPath(const std::string& strFolder, const std::string& strName) {
     if (GetFolderFromPath(strFolder) == strFolder)
         return strFolder + strName;
     return strFolder + "/" + strName;
+}
+
+void RemoveFile(const std::string& strPath) {
+    std::error_code ignored;
+    std::filesystem::remove(ToPath(strPath), ignored);
+}
+
+void RenameFile(const std::string& strPath, const std::string& strNewPath) {
+    std::error_code ignored;
+    std::filesystem::rename(ToPath(strPath), ToPath(strNewPath), ignored);
 }
 
 } // namespace cellora

@@ -20,4 +20,9 @@ std::string GetFolderFromPath(std::string strPath);
 /// folder gives the bare name.
 std::string JoinPath(const std::string& strFolder, const std::string& strName);
 
+/// Removes a file, or gives it another path on the same disk in place of any file there. Failures
+/// are ignored.
+void RemoveFile(const std::string& strPath);
+void RenameFile(const std::string& strPath, const std::string& strNewPath);
+
 } // namespace cellora

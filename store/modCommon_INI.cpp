@@ -18,13 +18,13 @@ constexpr std::size_t lngMaxCharacters = 254;
 constexpr std::size_t lngAnySize = std::numeric_limits<std::size_t>::max();
 constexpr std::string_view strByteOrderMark = "\xEF\xBB\xBF";
 
-// Where a key stands in the text, or where it would have to be inserted.
+/// Where a key stands in the text, or where it would have to be inserted.
 struct Place {
     bool blnSectionFound = false;
     bool blnKeyFound = false;
-    std::size_t lngValueBegin = 0; // first byte behind "=" and its blanks
-    std::size_t lngValueEnd = 0;   // the end of the line, before its line ending
-    std::size_t lngInsertAt = 0;   // the end of the section's last line that is not blank
+    std::size_t lngValueBegin = 0; ///< first byte behind "=" and its blanks
+    std::size_t lngValueEnd = 0;   ///< the end of the line, before its line ending
+    std::size_t lngInsertAt = 0;   ///< the end of the section's last line that is not blank
 };
 
 bool IsBlank(char c) {
@@ -49,7 +49,7 @@ std::string_view DropQuotes(std::string_view strText) {
     return blnQuoted ? strText.substr(1, strText.size() - 2) : strText;
 }
 
-// The line ending that starts at `lngAt`, empty at the end of the text.
+/// The line ending that starts at `lngAt`, empty at the end of the text.
 std::string_view GetLineEnd(std::string_view strText, std::size_t lngAt) {
     const bool blnPair = strText.substr(lngAt).starts_with("\r\n");
     return strText.substr(lngAt, blnPair ? 2 : 1);
@@ -68,7 +68,7 @@ std::optional<std::string_view> GetSectionName(std::string_view strLine) {
     return TrimBlanks(strLine.substr(1, lngClose - 1));
 }
 
-// True when the line holds the key; sets the place's value to what follows its equals sign.
+/// True when the line holds the key; sets the place's value to what follows its equals sign.
 bool MatchKey(std::string_view strText, std::size_t lngBegin, std::size_t lngEnd,
               std::string_view strKey, Place& place) {
     const std::string_view strLine = strText.substr(lngBegin, lngEnd - lngBegin);
@@ -106,7 +106,7 @@ Place FindPlace(std::string_view strText, std::string_view strSection, std::stri
     return place;
 }
 
-// The bytes a character takes at the start of the text, 1 for a byte that begins none.
+/// The bytes a character takes at the start of the text, 1 for a byte that begins none.
 std::size_t GetCharacterSize(std::string_view strText) {
     const auto byteLead = static_cast<unsigned char>(strText.front());
     const std::size_t lngWanted = byteLead < 0xC0   ? 1

@@ -3,11 +3,11 @@
 #include <string>
 
 /// Single values of a text file of sections, keys and values:
-//
+///
 ///     ; a comment
 ///     [section]
 ///     key=value
-//
+///
 /// Section and key names match without regard to ASCII case; the first section of a name and the
 /// first key of a name in it count. Blanks around names and values do not belong to them. Paths and
 /// texts are UTF-8, with or without a byte order mark; lines end with CR LF, LF or CR. There is no

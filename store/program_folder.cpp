@@ -13,7 +13,7 @@ namespace {
 
 constexpr int msPlaceTimeout = 1000;
 
-// Trying is the only sure answer: permissions alone know nothing of read-only disks and quotas.
+/// Trying is the only sure answer: permissions alone know nothing of read-only disks and quotas.
 bool CanCreateFile(const std::string& strFolder) {
     if (strFolder.empty())
         return false;
@@ -21,7 +21,7 @@ bool CanCreateFile(const std::string& strFolder) {
     return file.open();
 }
 
-// Keeps the separator of a root such as "/" or "C:\".
+/// Keeps the separator of a root such as "/" or "C:\".
 std::string DropEndSeparators(std::string strFolder) {
     while (strFolder.size() > 1 && GetFolderFromPath(strFolder) == strFolder &&
            strFolder[strFolder.size() - 2] != ':')

@@ -14,7 +14,7 @@ namespace cellora {
 
 namespace {
 
-// A write on a full disk may stop short without an error; only going on with the rest tells.
+/// A write on a full disk may stop short without an error; only going on with the rest tells.
 bool WriteAll(QSaveFile& file, std::string_view bytes) {
     while (!bytes.empty()) {
         const qint64 lngWritten = file.write(bytes.data(), static_cast<qint64>(bytes.size()));

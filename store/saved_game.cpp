@@ -14,14 +14,14 @@ constexpr std::string_view strTrue = "#TRUE#";
 constexpr std::string_view strFalse = "#FALSE#";
 constexpr std::size_t lngUsualBytes = 4096;
 
-// A value of the record and its place in the game.
+/// A value of the record and its place in the game.
 template <typename Value>
 struct Field {
     Value SavedGame::*saved;
     Value Game::*played;
 };
 
-// In the order of their lines.
+/// In the order of their lines.
 constexpr Field<std::int32_t> aCounters[] = {
     {&SavedGame::lngHours, &Game::lngHours},
     {&SavedGame::lngMinutes, &Game::lngMinutes},
@@ -39,7 +39,7 @@ constexpr std::string SavedCell::*aCellTexts[] = {&SavedCell::strSolution, &Save
 
 class Writer final {
 public:
-    Writer() { m_bytes.reserve(lngUsualBytes); }
+    Writer() { bytes_.reserve(lngUsualBytes); }
 
     void Number(std::int32_t lngNumber) { Line(std::to_string(lngNumber)); }
 
@@ -50,12 +50,12 @@ public:
 
     void Truth(bool blnValue) { Line(blnValue ? strTrue : strFalse); }
 
-    std::string Take() { return std::move(m_bytes); }
+    std::string Take() { return std::move(bytes_); }
 
 private:
-    void Line(std::string_view strLine) { m_bytes.append(strLine).append(strLineBreak); }
+    void Line(std::string_view strLine) { bytes_.append(strLine).append(strLineBreak); }
 
-    std::string m_bytes;
+    std::string bytes_;
 };
 
 std::optional<std::string_view> DropQuotes(std::string_view strLine) {
@@ -71,10 +71,10 @@ bool ReadWhole(std::string_view strText, Whole& number) {
     return result.ec == std::errc{} && result.ptr == end;
 }
 
-// Takes one value per line. Each routine is false when the next line does not hold such a value.
+/// Takes one value per line. Each routine is false when the next line does not hold such a value.
 class Reader final {
 public:
-    explicit Reader(std::string_view bytes) : m_rest(bytes) {}
+    explicit Reader(std::string_view bytes) : rest_(bytes) {}
 
     bool Number(std::int32_t& lngNumber) { return ReadWhole(NextLine(), lngNumber); }
 
@@ -96,38 +96,41 @@ public:
         return blnValue || strLine == strFalse;
     }
 
-    bool IsAtEnd() const { return m_rest.find_first_not_of(strLineBreak) == m_rest.npos; }
+    bool IsAtEnd() const { return rest_.find_first_not_of(strLineBreak) == rest_.npos; }
 
 private:
-    // Empty at the end of the file, which is no value either.
+    /// Empty at the end of the file, which is no value either.
     std::string_view NextLine() {
-        const std::size_t lngEnd = m_rest.find('\n');
-        std::string_view strLine = m_rest.substr(0, lngEnd);
-        m_rest.remove_prefix(lngEnd == m_rest.npos ? m_rest.size() : lngEnd + 1);
+        const std::size_t lngEnd = rest_.find('\n');
+        std::string_view strLine = rest_.substr(0, lngEnd);
+        rest_.remove_prefix(lngEnd == rest_.npos ? rest_.size() : lngEnd + 1);
         if (strLine.ends_with('\r'))
             strLine.remove_suffix(1);
         return strLine;
     }
 
-    std::string_view m_rest;
+    std::string_view rest_;
 };
 
 bool ReadCell(Reader& reader, SavedCell& cell) {
     if (!reader.CellNumber() || !reader.Truth(cell.blnGiven))
         return false;
-    for (const auto text : aCellTexts)
+    for (const auto text : aCellTexts) {
         if (!reader.Text(cell.*text))
             return false;
+    }
     return true;
 }
 
 bool ReadStatistics(Reader& reader, SavedGame& savedGame) {
-    for (const auto& counter : aCounters)
+    for (const auto& counter : aCounters) {
         if (!reader.Number(savedGame.*counter.saved))
             return false;
-    for (const auto& caption : aCaptions)
+    }
+    for (const auto& caption : aCaptions) {
         if (!reader.Text(savedGame.*caption.saved))
             return false;
+    }
     return true;
 }
 
@@ -154,9 +157,10 @@ std::optional<SavedGame> ParseSavedGame(std::string_view bytes) {
     SavedGame savedGame;
     if (!ReadStatistics(reader, savedGame))
         return std::nullopt;
-    for (SavedCell& cell : savedGame.cells)
+    for (SavedCell& cell : savedGame.cells) {
         if (!ReadCell(reader, cell))
             return std::nullopt;
+    }
     if (!reader.IsAtEnd())
         return std::nullopt;
     return savedGame;

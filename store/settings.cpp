@@ -27,7 +27,7 @@ constexpr std::int32_t lngRed = 0x0000FF;
 constexpr std::int32_t lngBlue = 0xFF0000;
 constexpr std::int32_t lngLightYellow = 0xC0FFFF;
 
-// The colours in the order of `ColorKey`, then the panes in the order of `ViewFlag`.
+/// The colours in the order of `ColorKey`, then the panes in the order of `ViewFlag`.
 constexpr Setting settings[] = {
     {"color", "screenbackground", lngWhite},
     {"color", "gridbackground", lngWhite},
@@ -83,7 +83,7 @@ Whole ReadWhole(const Setting& setting, const std::string& strPath) {
 
 struct LeadingNumber {
     double dblValue = 0;
-    std::string_view strRest; // what follows the number
+    std::string_view strRest; ///< what follows the number
 };
 
 std::optional<LeadingNumber> ParseLeadingNumber(std::string_view strText) {

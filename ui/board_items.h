@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QBrush>
 #include <QFont>
 #include <QGraphicsItem>
-#include <QPen>
 
-/// The elements the board is made of, in twips. Setting what an element has already costs nothing.
+/// The elements the board is made of, in twips. Each adds itself to its scene, which owns it.
+/// Setting what an element has already costs nothing.
 namespace cellora {
 
 /// A rectangle with an outline drawn inside it and an optional fill.

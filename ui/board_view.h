@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include <QGraphicsView>
 
 #include "core/modCellora.h"

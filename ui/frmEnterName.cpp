@@ -72,7 +72,10 @@ void frmEnterName::done(int intResult) {
 }
 
 void frmEnterName::ShowMedal() {
-    const QString strRank = QString::number(GetRank(game()));
+    const int intRank = GetRank(game());
+    if (intRank > LevelEntries::size())
+        return; // another copy of the program took the last place meanwhile
+    const QString strRank = QString::number(intRank);
     QLabel* const picMedal = AddLabel(this, {}, 330, 360, 1440, 1440);
     picMedal->setObjectName(QStringLiteral("picMedal"));
     picMedal->setAccessibleName(QStringLiteral("Medal for rank %1").arg(strRank));

@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-#include "store/modCommon_File.h"
+#include "flow/start_up.h"
 #include "store/settings.h"
 #include "ui/help_pages.h"
 #include "ui/look.h"
@@ -33,7 +33,7 @@ frmHelp::frmHelp(Game& game, QWidget* parent)
     // The wider gap of the style would leave the caption too little room.
     chkStartup_->setStyleSheet(QStringLiteral("spacing: 2px"));
     Place(chkStartup_, 6600, 4765, 1455, 255);
-    chkStartup_->setChecked(ReadStartup(GetSettingsPath()) == 1);
+    chkStartup_->setChecked(ReadStartup(GetSettingsFile(game)) == 1);
 }
 
 void frmHelp::ShowTab(int intIndex) {
@@ -41,7 +41,7 @@ void frmHelp::ShowTab(int intIndex) {
 }
 
 void frmHelp::done(int intResult) {
-    WriteStartup(chkStartup_->isChecked(), GetSettingsPath());
+    WriteStartup(chkStartup_->isChecked(), GetSettingsFile(game()));
     Form::done(intResult);
 }
 
@@ -60,10 +60,6 @@ void frmHelp::MakeTabs() {
     tab_->addTab(MakeControlsPage(), QStringLiteral("Controls"));
     tab_->addTab(MakeMenusPage(), QStringLiteral("Menus"));
     tab_->addTab(MakeHistoryPage(), QStringLiteral("History"));
-}
-
-std::string frmHelp::GetSettingsPath() {
-    return JoinPath(game().strProgramFolder, std::string(strSettingsFileName));
 }
 
 } // namespace cellora

@@ -23,7 +23,6 @@ public:
 private:
     void MakePicture();
     void MakeTabs();
-    std::string GetSettingsPath();
 
     QTabWidget* tab_ = nullptr;
     QCheckBox* chkStartup_ = nullptr;

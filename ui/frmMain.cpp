@@ -53,6 +53,9 @@ frmMain::frmMain(Game& game, QtDesktop& desktop, Recovery& recovery)
 
 frmMain::~frmMain() {
     desktop_.Detach();
+    announcer_.reset();
+    // The view goes before the scene it shows.
+    delete picGrid_;
 }
 
 void frmMain::MakeClient() {

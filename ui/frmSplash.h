@@ -15,8 +15,8 @@ class frmSplash final : public QWidget {
     Q_OBJECT
 
 public:
-    /// What start-up does, handed in by `Main`. `fnLoad` makes the main window if there is none yet,
-    /// disables it and shows it; `fnEnable` enables it; `fnStart` follows when the splash has
+    /// What start-up does, handed in by `Main`. `fnLoad` makes the main window if there is none
+    /// yet, disables it and shows it; `fnEnable` enables it; `fnStart` follows when the splash has
     /// closed, and may show modal windows.
     struct Steps {
         std::function<void()> fnLoad;

@@ -1,6 +1,5 @@
 #include "ui/number_selector.h"
 
-#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>

@@ -18,9 +18,11 @@ public:
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
         QSvgRenderer renderer(GetPicturePath(strName_));
+        painter->save();
         if (mode == QIcon::Disabled)
             painter->setOpacity(painter->opacity() * 0.35);
         renderer.render(painter, rect);
+        painter->restore();
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {

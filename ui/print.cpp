@@ -6,12 +6,12 @@
 #include <QPrinterInfo>
 
 #include "ui/frmCDG.h"
+#include "ui/layout_pass.h"
 
 namespace cellora {
 
 namespace {
 
-constexpr double dblGridSize = 6735;
 constexpr double dblTwipsPerInch = 1440;
 
 bool PrintDocument(QPrinter& printer, QGraphicsScene& scene) {

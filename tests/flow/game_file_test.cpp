@@ -114,7 +114,7 @@ TEST(GameFile, SaveOpenSaveGivesTheSameBytes) {
     }
 }
 
-// The mistakes view of an opened game shows the solution of every cell that is not wrong.
+/// The mistakes view of an opened game shows the solution of every cell that is not wrong.
 TEST(GameFile, OnlyTheViewChangesOfAGameFinishedWithMistakes) {
     PlayedGame played;
     played.Start(7);

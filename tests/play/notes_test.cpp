@@ -9,13 +9,13 @@
 namespace cellora {
 namespace {
 
-/// The popup's entries that are shown, top to bottom; a disabled one stands in parentheses.
+/// The popup's entries that are shown, top to bottom; "Remove All" in parentheses while disabled.
 std::string DescribePopup(const Game& game) {
     std::string strText;
     const auto fnAddShown = [&strText](const Numbered<PopupItem, 9>& items) {
         for (const PopupItem& item : items) {
             if (item.blnVisible)
-                strText += item.blnEnabled ? item.strCaption + '|' : '(' + item.strCaption + ")|";
+                strText += item.strCaption + '|';
         }
     };
     fnAddShown(game.mnuA);

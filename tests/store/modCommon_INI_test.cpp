@@ -13,17 +13,17 @@ class ModCommonINI : public testing::Test {
 protected:
     std::string Read(std::string_view strText, const char* strSection = "view",
                      const char* strKey = "toolbar") {
-        return ReadINI(strSection, strKey, m_folder.WriteBytes("cl.ini", strText));
+        return ReadINI(strSection, strKey, folder_.WriteBytes("cl.ini", strText));
     }
 
-    // The file's bytes after the write.
+    /// The file's bytes after the write.
     std::string Write(std::string_view strText, const std::string& strValue,
                       const char* strSection = "view", const char* strKey = "toolbar") {
-        WriteINI(strSection, strKey, strValue, m_folder.WriteBytes("cl.ini", strText));
-        return m_folder.ReadBytes("cl.ini");
+        WriteINI(strSection, strKey, strValue, folder_.WriteBytes("cl.ini", strText));
+        return folder_.ReadBytes("cl.ini");
     }
 
-    const TemporaryFolder m_folder;
+    const TemporaryFolder folder_;
 };
 
 TEST_F(ModCommonINI, ReadsTheValueOutOfHandEditedText) {
@@ -60,8 +60,8 @@ TEST_F(ModCommonINI, ReadsNothingWhereNothingIs) {
           "[view]\ntoolbar=''\n", "[view]\n[other]\ntoolbar=1\n[view]\ntoolbar=1\n"}) {
         EXPECT_EQ(Read(strText), "") << strText;
     }
-    EXPECT_EQ(ReadINI("view", "toolbar", m_folder.Path("missing")), "");
-    EXPECT_EQ(ReadINI("view", "toolbar", m_folder.Path()), "");
+    EXPECT_EQ(ReadINI("view", "toolbar", folder_.Path("missing")), "");
+    EXPECT_EQ(ReadINI("view", "toolbar", folder_.Path()), "");
 }
 
 TEST_F(ModCommonINI, CutsAValueTo254Characters) {
@@ -110,8 +110,8 @@ TEST_F(ModCommonINI, PutsANewSectionAtTheEnd) {
     EXPECT_EQ(Write("\xEF\xBB\xBF", "0"), "\xEF\xBB\xBF[view]\r\ntoolbar=0\r\n");
     EXPECT_EQ(Write("[color]\na=1", "0"), "[color]\na=1\n[view]\ntoolbar=0\n");
     EXPECT_EQ(Write("[color]\n\n", "0"), "[color]\n\n[view]\ntoolbar=0\n");
-    WriteINI("general", "path", "/games", m_folder.Path("new.ini"));
-    EXPECT_EQ(m_folder.ReadBytes("new.ini"), "[general]\r\npath=/games\r\n");
+    WriteINI("general", "path", "/games", folder_.Path("new.ini"));
+    EXPECT_EQ(folder_.ReadBytes("new.ini"), "[general]\r\npath=/games\r\n");
 }
 
 TEST_F(ModCommonINI, ReadsBackEveryValueItWrites) {
@@ -123,8 +123,8 @@ TEST_F(ModCommonINI, ReadsBackEveryValueItWrites) {
             c = strAlphabet[random() % strAlphabet.size()];
         }
         const std::string strText = Write("[view]\r\nlast=1\r\n", strValue);
-        EXPECT_EQ(ReadINI("VIEW", "TOOLBAR", m_folder.Path("cl.ini")), strValue) << strText;
-        EXPECT_EQ(ReadINI("view", "last", m_folder.Path("cl.ini")), "1") << strText;
+        EXPECT_EQ(ReadINI("VIEW", "TOOLBAR", folder_.Path("cl.ini")), strValue) << strText;
+        EXPECT_EQ(ReadINI("view", "last", folder_.Path("cl.ini")), "1") << strText;
     }
 }
 
@@ -147,18 +147,18 @@ TEST_F(ModCommonINI, ChangesOneValueOfAVeryLargeFile) {
     }
     const std::string strAfter = "\n[color]\n" + std::string(4'000'000, 'y');
     EXPECT_EQ(Write(strBefore + "toolbar=1" + strAfter, "0"), strBefore + "toolbar=0" + strAfter);
-    EXPECT_EQ(ReadINI("view", "toolbar", m_folder.Path("cl.ini")), "0");
+    EXPECT_EQ(ReadINI("view", "toolbar", folder_.Path("cl.ini")), "0");
 }
 
 TEST_F(ModCommonINI, AWriteThatCannotSucceedChangesNothing) {
-    const std::string strPlain = m_folder.WriteBytes("plain", "x");
-    m_folder.MakeFolder("cl.ini.d");
+    const std::string strPlain = folder_.WriteBytes("plain", "x");
+    folder_.MakeFolder("cl.ini.d");
     WriteINI("view", "toolbar", "0", strPlain + "/cl.ini");
-    WriteINI("view", "toolbar", "0", m_folder.Path("cl.ini.d"));
-    WriteINI("view", "toolbar", "0", m_folder.Path("missing/cl.ini"));
-    EXPECT_EQ(m_folder.ReadBytes("plain"), "x");
-    EXPECT_EQ(m_folder.Count(), 2);
-    EXPECT_TRUE(std::filesystem::is_empty(m_folder.Path("cl.ini.d")));
+    WriteINI("view", "toolbar", "0", folder_.Path("cl.ini.d"));
+    WriteINI("view", "toolbar", "0", folder_.Path("missing/cl.ini"));
+    EXPECT_EQ(folder_.ReadBytes("plain"), "x");
+    EXPECT_EQ(folder_.Count(), 2);
+    EXPECT_TRUE(std::filesystem::is_empty(folder_.Path("cl.ini.d")));
 }
 
 } // namespace

@@ -48,26 +48,26 @@ TEST(ProgramFolder, ShippedFilesFillOnlyGaps) {
 
 #ifndef _WIN32
 
-// Sets a variable of the environment, or removes it, until the object goes.
+/// Sets a variable of the environment, or removes it, until the object goes.
 class EnvironmentValue final {
 public:
-    EnvironmentValue(const char* strName, const char* strValue) : m_strName(strName) {
+    EnvironmentValue(const char* strName, const char* strValue) : strName_(strName) {
         if (const char* strOld = std::getenv(strName)) {
-            m_strOld = strOld;
+            strOld_ = strOld;
         }
         Set(strValue);
     }
-    ~EnvironmentValue() { Set(m_strOld ? m_strOld->c_str() : nullptr); }
+    ~EnvironmentValue() { Set(strOld_ ? strOld_->c_str() : nullptr); }
     EnvironmentValue(const EnvironmentValue&) = delete;
     EnvironmentValue& operator=(const EnvironmentValue&) = delete;
 
 private:
     void Set(const char* strValue) {
-        strValue ? setenv(m_strName, strValue, 1) : unsetenv(m_strName);
+        strValue ? setenv(strName_, strValue, 1) : unsetenv(strName_);
     }
 
-    const char* m_strName;
-    std::optional<std::string> m_strOld;
+    const char* strName_;
+    std::optional<std::string> strOld_;
 };
 
 TEST(ProgramFolder, UserDataFollowsTheEnvironment) {

@@ -59,24 +59,24 @@ TEST(ReplaceFile, KeepsALinkAndTheModeOfTheFileBehindIt) {
               std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
 }
 
-// Lets no file grow beyond a size, as a disk that fills up does.
+/// Lets no file grow beyond a size, as a disk that fills up does.
 class FileSizeLimit final {
 public:
-    explicit FileSizeLimit(rlim_t lngBytes) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &m_old);
-        const rlimit limit{lngBytes, m_old.rlim_max};
+    explicit FileSizeLimit(rlim_t lngBytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &old_);
+        const rlimit limit{lngBytes, old_.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
     }
     ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldHandler);
+        setrlimit(RLIMIT_FSIZE, &old_);
+        std::signal(SIGXFSZ, oldHandler_);
     }
     FileSizeLimit(const FileSizeLimit&) = delete;
     FileSizeLimit& operator=(const FileSizeLimit&) = delete;
 
 private:
-    rlimit m_old{};
-    void (*m_oldHandler)(int);
+    rlimit old_{};
+    void (*oldHandler_)(int);
 };
 
 TEST(ReplaceFile, AWriteThatBreaksOffLeavesTheOldFileWhole) {

@@ -146,6 +146,11 @@ public:
     /// Start, and a new game through the dialog.
     void StartGame(int intLevel = 1) {
         Start();
+        ChooseNewGame(intLevel);
+    }
+
+    /// A new game through the dialog.
+    void ChooseNewGame(int intLevel) {
         modal.Then([intLevel](QWidget& dialog) {
             GetControl<QComboBox>(dialog, "cboDifficulty").setCurrentIndex(intLevel - 1);
             ClickControl(dialog, "cmdOK");

@@ -9,55 +9,55 @@
 
 namespace cellora {
 
-// A new empty folder for one test, removed with all it holds when the object goes.
+/// A new empty folder for one test, removed with all it holds when the object goes.
 class TemporaryFolder final {
 public:
     TemporaryFolder() {
         std::random_device random;
         do {
-            m_folder = std::filesystem::temp_directory_path() /
+            folder_ = std::filesystem::temp_directory_path() /
                        ("cellora-test-" + std::to_string(random()) + std::to_string(random()));
-        } while (!std::filesystem::create_directory(m_folder));
+        } while (!std::filesystem::create_directory(folder_));
     }
 
     ~TemporaryFolder() {
         std::error_code error;
-        std::filesystem::remove_all(m_folder, error);
+        std::filesystem::remove_all(folder_, error);
     }
 
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    std::string Path() const { return m_folder.string(); }
+    std::string Path() const { return folder_.string(); }
 
-    // The path of a file or folder of that name inside; nothing is created.
-    std::string Path(const std::string& strName) const { return (m_folder / strName).string(); }
+    /// The path of a file or folder of that name inside; nothing is created.
+    std::string Path(const std::string& strName) const { return (folder_ / strName).string(); }
 
     std::string MakeFolder(const std::string& strName) const {
-        std::filesystem::create_directories(m_folder / strName);
+        std::filesystem::create_directories(folder_ / strName);
         return Path(strName);
     }
 
-    // Makes the bytes the whole content of the file and returns its path.
+    /// Makes the bytes the whole content of the file and returns its path.
     std::string WriteBytes(const std::string& strName, std::string_view bytes) const {
-        std::ofstream file(m_folder / strName, std::ios::binary);
+        std::ofstream file(folder_ / strName, std::ios::binary);
         file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         return Path(strName);
     }
 
-    // Empty for a file that cannot be read.
+    /// Empty for a file that cannot be read.
     std::string ReadBytes(const std::string& strName) const {
-        std::ifstream file(m_folder / strName, std::ios::binary);
+        std::ifstream file(folder_ / strName, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     }
 
-    // How many files and folders lie directly inside.
+    /// How many files and folders lie directly inside.
     std::ptrdiff_t Count() const {
-        return std::distance(std::filesystem::directory_iterator(m_folder), {});
+        return std::distance(std::filesystem::directory_iterator(folder_), {});
     }
 
 private:
-    std::filesystem::path m_folder;
+    std::filesystem::path folder_;
 };
 
 } // namespace cellora

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "core/modCellora.h"
 #include "tests/support/scripted_desktop.h"

@@ -89,7 +89,7 @@ TEST_F(EnterName, TellsWhatWasReached) {
     Record(12, {"Ada", 0, 5, 0});
     FinishGame(12, {"", 0, 7, 5});
     Open();
-    EXPECT_EQ(desktop.log, (Log{"beep", "arrow"}));
+    EXPECT_EQ(desktop.log, (Log{"hourglass", "arrow", "beep", "arrow"}));
     EXPECT_EQ(dialog->windowTitle(), QLatin1String("Congratulations!"));
     EXPECT_EQ(GetControl<QLabel>(*dialog, "lblCongratulations").text(),
               QLatin1String("You have successfully completed a Level 12 game of the 'Cellora'."));
@@ -192,7 +192,7 @@ TEST_F(EnterName, StaysOpenWithTheNameWhenItCannotBeWritten) {
     game.strProgramFolder = folder.Path("missing");
     QTest::keyClicks(&NameBox(), QStringLiteral("Ada"));
     ClickControl(*dialog, "cmdOK");
-    EXPECT_EQ(desktop.log, (Log{"beep", "box Hall of Fame"}));
+    EXPECT_EQ(desktop.log, (Log{"hourglass", "arrow", "beep", "box Hall of Fame"}));
     EXPECT_EQ(desktop.boxes.back().icon, MessageIcon::Exclamation);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(NameBox().text(), QLatin1String("Ada"));
@@ -330,7 +330,8 @@ TEST_F(TopTen, KeepsTheListWhenTheResetCannotBeWritten) {
     desktop.answers = {Answer::Yes};
     game.strProgramFolder = folder.Path("missing");
     ClickControl(*dialog, "cmdReset");
-    EXPECT_EQ(desktop.log, (Log{"beep", "box Reset Scores?", "hourglass", "arrow", "beep", "box Hall of Fame"}));
+    EXPECT_EQ(desktop.log, (Log{"beep", "box Reset Scores?", "hourglass", "arrow", "beep",
+                                "box Hall of Fame"}));
     EXPECT_EQ(GetRows(), Log{"1|Ada|00:01:02"});
 }
 
