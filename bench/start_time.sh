@@ -1,0 +1,44 @@
+#!/usr/bin/env bash
+# Times the start of Cellora against an empty Qt window that loads the same libraries: from the
+# moment before the process is started until its first frame is on the screen, the splash here, an
+# empty square there. "On the screen" is taken literally: a stop-watch reads the pixel in the middle
+# of an otherwise black X server, about every millisecond, until it changes. A window that is mapped
+# but not yet drawn leaves that pixel alone. No window manager runs, and neither program knows that
+# it is being timed. The two take turns, so that what else the machine does falls on both; one start
+# of each goes uncounted.
+# Usage: bench/start_time.sh [BUILD_FOLDER [STARTS]]
+set -euo pipefail
+build=$(readlink -f "${1:-$(dirname "${BASH_SOURCE[0]}")/../build/bench}")
+starts=${2:-21}
+if [[ -z "${CELLORA_START_TIME_DISPLAY:-}" ]]; then
+    export CELLORA_START_TIME_DISPLAY=1
+    exec xvfb-run -a -s "-screen 0 1280x900x24" "${BASH_SOURCE[0]}" "$build" "$starts"
+fi
+
+# A copy keeps its files to itself.
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cp "$build/cellora" "$work"
+
+# Prints the milliseconds of one start. What a killed copy left behind is no part of a usual start.
+start_time() {
+    rm -f "$work"/recovery*
+    "$build/bench/cellora_first_paint" "$1"
+}
+
+median() {
+    sort -n "$1" | sed -n "$(((starts + 1) / 2))p"
+}
+
+start_time "$work/cellora" >"$work/uncounted"
+start_time "$build/bench/cellora_empty_window" >"$work/uncounted"
+for ((start = 0; start < starts; ++start)); do
+    start_time "$work/cellora" >>"$work/splash"
+    start_time "$build/bench/cellora_empty_window" >>"$work/empty"
+done
+awk -v splash="$(median "$work/splash")" -v empty="$(median "$work/empty")" -v starts="$starts" \
+    'BEGIN {
+        printf "Medians of %d starts, process start to first frame:\n", starts
+        printf "  splash        %6.1f ms\n  empty window  %6.1f ms\n  ratio         %6.2f\n",
+            splash, empty, splash / empty
+    }'

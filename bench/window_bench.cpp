@@ -1,0 +1,131 @@
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QFile>
+#include <QKeyEvent>
+#include <QTemporaryDir>
+
+#include "core/levels.h"
+#include "flow/new_game.h"
+#include "ui/board_view.h"
+#include "ui/look.h"
+#include "ui/start.h"
+#include "ui/text.h"
+
+namespace cellora {
+namespace {
+
+/// Sees the frames of a widget.
+class PaintWatch final : public QObject {
+public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        blnPainted_ = blnPainted_ || event->type() == QEvent::Paint;
+        return false;
+    }
+
+    /// Handles events until the widget has been painted. The frame itself is drawn inside
+    /// `processEvents`, so it is complete when this returns.
+    void WaitForFrame() {
+        blnPainted_ = false;
+        while (!blnPainted_)
+            QCoreApplication::processEvents();
+    }
+
+private:
+    bool blnPainted_ = false;
+};
+
+/// The program after its start, in a folder of its own, with a game on the board.
+class WindowBench {
+public:
+    WindowBench() {
+        program_.Main();
+        for (QTimer* const timer : {&program_.splash()->tmrSplash(),
+                                    &program_.splash()->tmrSplash2()})
+            QMetaObject::invokeMethod(timer, "timeout");
+        StartGame(15);
+        QCoreApplication::processEvents();
+    }
+
+    Game& game() { return program_.game(); }
+    BoardView& grid() { return *program_.mainWindow()->findChild<BoardView*>(); }
+
+    void StartGame(int intLevel) {
+        StartNewGame(game(), GetLevelName(intLevel));
+        program_.mainWindow()->Mirror();
+    }
+
+    void Press(Qt::Key key) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&grid(), &press);
+    }
+
+    /// Moves the cursor to an empty cell.
+    void FindEmptyCell() {
+        while (game().cells[game().intCursorCell].blnGiven)
+            Press(Qt::Key_Right);
+    }
+
+private:
+    /// The Instructions would wait for a player at the start.
+    static std::string MakeFolder(const QTemporaryDir& folder) {
+        QFile file(folder.filePath(QStringLiteral("cl.ini")));
+        if (file.open(QIODevice::WriteOnly))
+            file.write("[general]\r\nstartup=0\r\n");
+        return ToStdString(folder.path());
+    }
+
+    QTemporaryDir folder_;
+    Program program_{MakeFolder(folder_), 20240229};
+};
+
+/// From the key press to the painted frame; every press changes what is seen.
+void PressInTurn(benchmark::State& state, Qt::Key keyFirst, Qt::Key keySecond) {
+    WindowBench window;
+    window.FindEmptyCell();
+    PaintWatch watch(*window.grid().viewport());
+    bool blnFirst = false;
+    for ([[maybe_unused]] auto _ : state) {
+        blnFirst = !blnFirst;
+        window.Press(blnFirst ? keyFirst : keySecond);
+        watch.WaitForFrame();
+    }
+}
+
+void BM_PressDigit(benchmark::State& state) {
+    PressInTurn(state, Qt::Key_1, Qt::Key_2);
+}
+BENCHMARK(BM_PressDigit)->Unit(benchmark::kMicrosecond);
+
+void BM_PressArrow(benchmark::State& state) {
+    PressInTurn(state, Qt::Key_Right, Qt::Key_Left);
+}
+BENCHMARK(BM_PressArrow)->Unit(benchmark::kMicrosecond);
+
+/// From the OK of the New Game dialog to the painted board, at a level.
+void BM_NewGame(benchmark::State& state) {
+    WindowBench window;
+    PaintWatch watch(*window.grid().viewport());
+    for ([[maybe_unused]] auto _ : state) {
+        window.StartGame(static_cast<int>(state.range(0)));
+        watch.WaitForFrame();
+    }
+}
+BENCHMARK(BM_NewGame)->Arg(1)->Arg(30)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+} // namespace cellora
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    cellora::ApplyLook(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+}
