@@ -25,7 +25,9 @@ int main(int argc, char** argv) {
     const std::string strExecutableFolder =
         cellora::ToStdString(QApplication::applicationDirPath());
     cellora::Program program(
-        cellora::GetProgramFolder(strExecutableFolder, cellora::GetUserDataFolder()),
+        [strExecutableFolder] {
+            return cellora::GetProgramFolder(strExecutableFolder, cellora::GetUserDataFolder());
+        },
         DrawRandomState());
     program.Main();
     return QApplication::exec();

@@ -79,7 +79,7 @@ private:
     }
 
     QTemporaryDir folder_;
-    Program program_{MakeFolder(folder_), 20240229};
+    Program program_{[this] { return MakeFolder(folder_); }, 20240229};
 };
 
 /// From the key press to the painted frame; every press changes what is seen.

@@ -29,9 +29,8 @@ void PlaceFiles(const std::string& strFolder) {
 
 } // namespace
 
-Program::Program(std::string strProgramFolder, std::uint64_t lngRandomState)
-    : game_(desktop_), recovery_(strProgramFolder) {
-    game_.strProgramFolder = std::move(strProgramFolder);
+Program::Program(std::function<std::string()> fnFindFolder, std::uint64_t lngRandomState)
+    : game_(desktop_), fnFindFolder_(std::move(fnFindFolder)) {
     game_.lngRandomState = lngRandomState;
     game_.fnDoCellCount = DoCellCount;
 }
@@ -48,9 +47,11 @@ void Program::Main() {
 
 void Program::LoadMain() {
     if (main_ == nullptr) {
+        game_.strProgramFolder = fnFindFolder_();
         PlaceFiles(game_.strProgramFolder);
+        recovery_.emplace(game_.strProgramFolder);
         InstallBoardAccessibility();
-        main_ = std::make_unique<frmMain>(game_, desktop_, recovery_);
+        main_ = std::make_unique<frmMain>(game_, desktop_, *recovery_);
     }
     main_->setEnabled(false);
     if (!main_->isVisible()) {
@@ -63,7 +64,7 @@ void Program::StartMain() {
     main_->activateWindow();
     if (OpensAtStartup(GetSettingsFile(game_)))
         desktop_.ShowModal(ModalWindow::frmHelp);
-    recovery_.OfferToRestore(game_);
+    recovery_->OfferToRestore(game_);
     main_->Mirror();
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 
 #include "core/modCellora.h"
 #include "flow/recovery.h"
@@ -14,9 +16,9 @@ namespace cellora {
 /// The program put together: its state, its desktop and its windows, from the splash on.
 class Program final {
 public:
-    /// `strProgramFolder` holds the settings and the hall of fame; `lngRandomState` is where the
-    /// random numbers begin.
-    Program(std::string strProgramFolder, std::uint64_t lngRandomState);
+    /// `fnFindFolder` names the folder of the settings and the hall of fame; it is asked once, when
+    /// the splash can be seen. `lngRandomState` is where the random numbers begin.
+    Program(std::function<std::string()> fnFindFolder, std::uint64_t lngRandomState);
     ~Program();
 
     /// Shows the splash and returns; the rest of the start follows by its timers.
@@ -33,7 +35,8 @@ private:
 
     QtDesktop desktop_;
     Game game_;
-    Recovery recovery_;
+    std::function<std::string()> fnFindFolder_;
+    std::optional<Recovery> recovery_; ///< from the loading of the main window on
     std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<frmMain> main_;
 };

@@ -270,7 +270,7 @@ public:
     }
 
     TemporaryFolder folder;
-    Program program{folder.Path(), 20240229};
+    Program program{[this] { return folder.Path(); }, 20240229};
     ModalScript modal;
 };
 
