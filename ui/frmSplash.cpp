@@ -44,6 +44,8 @@ QLabel* frmSplash::AddLabel(const QString& strName, const QString& strText, QRec
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, QColor(128, 128, 128));
     label->setPalette(palette);
+    // Loading the first font takes longer than the picture; the labels follow its first frame.
+    label->hide();
     return label;
 }
 
@@ -53,6 +55,12 @@ void frmSplash::paintEvent(QPaintEvent*) {
     painter.drawPixmap(0, 0, MakePixmap(QStringLiteral("splash"), {370, 190}, devicePixelRatioF()));
     painter.setPen(QPen(QColor(0x22, 0x30, 0x3C), 1));
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    QTimer::singleShot(0, this, &frmSplash::ShowLabels);
+}
+
+void frmSplash::ShowLabels() {
+    for (QLabel* const label : findChildren<QLabel*>())
+        label->show();
 }
 
 void frmSplash::tmrSplash_Timer() {

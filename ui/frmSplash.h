@@ -35,6 +35,7 @@ protected:
 private:
     QLabel* AddLabel(const QString& strName, const QString& strText, QRect rect,
                      Qt::Alignment alignment);
+    void ShowLabels();
     void tmrSplash_Timer();
     void tmrSplash2_Timer();
 
