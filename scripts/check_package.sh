@@ -1,0 +1,77 @@
+#!/usr/bin/env bash
+# Builds the Debian package, has Debian's own tools judge it, and starts the program from it as an
+# ordinary user, who must find nothing written outside the user's own data folder.
+# Usage: scripts/check_package.sh [BUILD_FOLDER]
+set -euo pipefail
+folder=$(readlink -f "${1:-$(dirname "${BASH_SOURCE[0]}")/../build/release}")
+cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
+source scripts/packages.sh
+
+readonly seconds_of_play=4
+readonly player=nobody
+
+fail() {
+    echo "check_package: $*" >&2
+    exit 1
+}
+
+install_missing "${build_packages[@]}" desktop-file-utils appstream lintian dpkg-dev \
+    shared-mime-info file util-linux
+if (($# == 0)); then
+    build release
+else
+    cmake --build "$folder" --target cellora
+fi
+
+as_root=()
+if ((EUID != 0)); then
+    as_root=(sudo)
+fi
+work=$(mktemp -d)
+trap '"${as_root[@]}" rm -rf "$work"' EXIT
+chmod 755 "$work"
+
+echo "Packing"
+cpack --config "$folder/CPackConfig.cmake" -G DEB -B "$work/packed" >"$work/cpack.log" 2>&1 ||
+    { cat "$work/cpack.log"; fail "the package cannot be built"; }
+package=$(ls "$work"/packed/*.deb)
+dpkg-deb -x "$package" "$work/root"
+chmod -R a+rX,go-w "$work/root"
+share=$work/root/usr/share
+
+echo "Checking $(basename "$package")"
+desktop-file-validate "$share/applications/cellora.desktop"
+appstreamcli validate --no-net "$share/metainfo/example.cellora.Cellora.metainfo.xml"
+lintian --fail-on error --allow-root "$package"
+cp -r "$share/mime" "$work/mime"
+XDG_DATA_HOME=$work XDG_DATA_DIRS=/usr/share update-mime-database "$work/mime"
+grep -qx 'application/x-cellora-game:\*\.clp' "$work/mime/globs" ||
+    fail "saved games have no type of their own"
+for template in cl.ini hof.clh; do
+    cmp "assets/$template" "$share/cellora/$template"
+done
+
+echo "Playing as $player"
+home=$work/home
+mkdir -m 755 "$home"
+"${as_root[@]}" chown -R root:root "$work/root"
+"${as_root[@]}" install -d -m 700 -o "$player" "$home/tmp" "$home/run" "$home/data"
+"${as_root[@]}" chown "$player" "$home"
+touch "$work/start"
+status=0
+"${as_root[@]}" setpriv --reuid="$player" --regid=nogroup --clear-groups \
+    env -i PATH=/usr/bin:/bin LANG=C.UTF-8 HOME="$home" XDG_DATA_HOME="$home/data" \
+    XDG_RUNTIME_DIR="$home/run" TMPDIR="$home/tmp" QT_QPA_PLATFORM=offscreen \
+    timeout "$seconds_of_play" "$work/root/usr/games/cellora" >"$work/play.log" 2>&1 || status=$?
+((status == 124)) || { cat "$work/play.log"; fail "the program ended by itself (status $status)"; }
+
+for written in cl.ini hof.clh; do
+    "${as_root[@]}" test -s "$home/data/cellora/$written" || fail "$written was not written"
+done
+# Where every user may write, and in the places of this user alone.
+strays=$("${as_root[@]}" find "$home" -type f -not -path "$home/data/cellora/*"
+    "${as_root[@]}" find "$work/root" -newer "$work/start" -type f
+    "${as_root[@]}" find /tmp /var/tmp /dev/shm -path "$work" -prune -o \
+        -user "$player" -newer "$work/start" -print)
+[[ -z $strays ]] || fail "written outside the user's data folder: $strays"
+echo "The package is sound."
