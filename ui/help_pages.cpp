@@ -24,8 +24,8 @@ struct HelpRow {
 constexpr char strAim[] =
     "Fill the grid so that every row, every column and every 3 x 3 region of the 9 x 9 grid holds "
     "each digit from 1 to 9 exactly once. The digits shown at the start are clues: they stay where "
-    "they are, and they allow only one way to complete the grid. No guessing is needed, and no "
-    "arithmetic either: any nine signs would do.";
+    "they are, and they allow only one way to complete the grid. No arithmetic is needed: any nine "
+    "signs would do.";
 
 constexpr char strFirstGame[] =
     "To start your first game, just close this dialog box and then select 'New Game' from the "
