@@ -1,6 +1,5 @@
 #include "flow/hall_of_fame.h"
 
-#include <charconv>
 #include <utility>
 #include <vector>
 
@@ -15,8 +14,8 @@ namespace cellora {
 namespace {
 
 constexpr std::size_t intMaxFileSize = std::size_t{1} << 20U;
-constexpr int intLinesPerEntry = 4;
-constexpr int intLinesPerLevel = 1 + 10 * intLinesPerEntry;
+constexpr std::size_t intLinesPerEntry = 4;
+constexpr std::size_t intLinesPerLevel = 1 + LevelEntries::size() * intLinesPerEntry;
 constexpr int intLockMilliseconds = 2000;
 
 using Lines = std::vector<std::string_view>;
@@ -26,29 +25,17 @@ std::string GetFilePath(const Game& game) {
     return JoinPath(game.strProgramFolder, std::string(strHallOfFameFileName));
 }
 
-/// The file's lines without their ends; a text after the last line end counts as a line.
 Lines SplitLines(std::string_view strBytes) {
     Lines lines;
-    while (!strBytes.empty()) {
-        const auto intEnd = strBytes.find('\n');
-        std::string_view strLine = strBytes.substr(0, intEnd);
-        if (strLine.ends_with('\r'))
-            strLine.remove_suffix(1);
-        lines.push_back(strLine);
-        strBytes.remove_prefix(intEnd == std::string_view::npos ? strBytes.size() : intEnd + 1);
-    }
+    while (!strBytes.empty())
+        lines.push_back(TakeLine(strBytes));
     return lines;
 }
 
 bool ReadNumber(std::string_view strLine, std::int32_t& lngNumber) {
-    strLine = Trim(strLine);
-    std::int32_t lngRead = 0;
-    const char* const pEnd = strLine.data() + strLine.size();
-    const auto result = std::from_chars(strLine.data(), pEnd, lngRead);
-    if (result.ec != std::errc{} || result.ptr != pEnd)
-        return false;
-    lngNumber = lngRead;
-    return true;
+    const auto lngRead = ParseWhole<std::int32_t>(Trim(strLine));
+    lngNumber = lngRead.value_or(lngNumber);
+    return lngRead.has_value();
 }
 
 /// The name without any quotes, which could not be written back; true when it stood between the two
@@ -61,7 +48,7 @@ bool ReadName(std::string_view strLine, std::string& strName) {
 
 /// Takes what the lines of one level give; true when all of it was in form.
 bool ReadLevel(const Lines& lines, int intLevel, LevelEntries& entries) {
-    auto intLine = static_cast<std::size_t>((intLevel - 1) * intLinesPerLevel);
+    auto intLine = static_cast<std::size_t>(intLevel - 1) * intLinesPerLevel;
     std::int32_t lngLevel = 0;
     bool blnInForm =
         intLine < lines.size() && ReadNumber(lines[intLine], lngLevel) && lngLevel == intLevel;
@@ -81,8 +68,7 @@ bool ReadLevel(const Lines& lines, int intLevel, LevelEntries& entries) {
 
 bool ReadLevels(std::string_view strBytes, HallOfFame& hallOfFame) {
     const Lines lines = SplitLines(strBytes);
-    bool blnInForm = strBytes.ends_with('\n') &&
-                     lines.size() == static_cast<std::size_t>(intLevelCount * intLinesPerLevel);
+    bool blnInForm = strBytes.ends_with('\n') && lines.size() == intLevelCount * intLinesPerLevel;
     for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
         blnInForm &= ReadLevel(lines, intLevel, hallOfFame[intLevel]);
     return blnInForm;
@@ -211,14 +197,14 @@ std::optional<std::string> ResetHallOfFame(const Game& game) {
 }
 
 std::int16_t GetHighestRecordedLevel(const Game& game) {
-    std::int16_t intHighest = 0;
-    for (std::int16_t intLevel = 1; intLevel <= intLevelCount; ++intLevel) {
-        LevelEntries entries;
-        ReadHallOfFame(game, intLevel, entries);
-        if (Trim(entries[1].strName) != strNoName)
-            intHighest = intLevel;
+    HallOfFame hallOfFame;
+    if (const auto bytes = ReadWholeFile(GetFilePath(game), intMaxFileSize))
+        ReadLevels(*bytes, hallOfFame);
+    for (std::int16_t intLevel = intLevelCount; intLevel >= 1; --intLevel) {
+        if (Trim(hallOfFame[intLevel][1].strName) != strNoName)
+            return intLevel;
     }
-    return intHighest;
+    return 0;
 }
 
 std::string FormatEntryTime(const HallOfFameEntry& entry) {

@@ -1,10 +1,9 @@
 #include "store/saved_game.h"
 
 #include <cassert>
-#include <charconv>
-#include <concepts>
-#include <system_error>
 #include <utility>
+
+#include "core/text.h"
 
 namespace cellora {
 
@@ -64,24 +63,20 @@ std::optional<std::string_view> DropQuotes(std::string_view strLine) {
     return strLine.substr(1, strLine.size() - 2);
 }
 
-template <std::integral Whole>
-bool ReadWhole(std::string_view strText, Whole& number) {
-    const char* const end = strText.data() + strText.size();
-    const auto result = std::from_chars(strText.data(), end, number);
-    return result.ec == std::errc{} && result.ptr == end;
-}
-
 /// Takes one value per line. Each routine is false when the next line does not hold such a value.
 class Reader final {
 public:
     explicit Reader(std::string_view bytes) : rest_(bytes) {}
 
-    bool Number(std::int32_t& lngNumber) { return ReadWhole(NextLine(), lngNumber); }
+    bool Number(std::int32_t& lngNumber) {
+        const auto lngRead = ParseWhole<std::int32_t>(NextLine());
+        lngNumber = lngRead.value_or(0);
+        return lngRead.has_value();
+    }
 
     bool CellNumber() {
         const std::string_view strLine = NextLine();
-        std::int16_t intIgnored = 0;
-        return ReadWhole(DropQuotes(strLine).value_or(strLine), intIgnored);
+        return ParseWhole<std::int16_t>(DropQuotes(strLine).value_or(strLine)).has_value();
     }
 
     bool Text(std::string& strText) {
@@ -96,18 +91,11 @@ public:
         return blnValue || strLine == strFalse;
     }
 
-    bool IsAtEnd() const { return rest_.find_first_not_of(strLineBreak) == rest_.npos; }
+    bool IsAtEnd() const { return rest_.find_first_not_of(strLineBreak) == std::string_view::npos; }
 
 private:
     /// Empty at the end of the file, which is no value either.
-    std::string_view NextLine() {
-        const std::size_t lngEnd = rest_.find('\n');
-        std::string_view strLine = rest_.substr(0, lngEnd);
-        rest_.remove_prefix(lngEnd == rest_.npos ? rest_.size() : lngEnd + 1);
-        if (strLine.ends_with('\r'))
-            strLine.remove_suffix(1);
-        return strLine;
-    }
+    std::string_view NextLine() { return TakeLine(rest_); }
 
     std::string_view rest_;
 };

@@ -1,15 +1,18 @@
 #include "store/settings.h"
 
-#include "store/ascii.h"
-#include "store/modCommon_INI.h"
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <string_view>
 #include <system_error>
+
+#include "core/modCommon_Constants.h"
+#include "core/text.h"
+#include "store/ascii.h"
+#include "store/modCommon_INI.h"
 
 namespace cellora {
 
@@ -21,21 +24,19 @@ struct Setting {
     std::int32_t lngDefault;
 };
 
-constexpr std::int32_t lngBlack = 0x000000;
-constexpr std::int32_t lngWhite = 0xFFFFFF;
-constexpr std::int32_t lngRed = 0x0000FF;
-constexpr std::int32_t lngBlue = 0xFF0000;
-constexpr std::int32_t lngLightYellow = 0xC0FFFF;
+constexpr Color lngRed = MakeColor(255, 0, 0);
+constexpr Color lngBlue = MakeColor(0, 0, 255);
+constexpr Color lngLightYellow = MakeColor(255, 255, 192);
 
 /// The colours in the order of `ColorKey`, then the panes in the order of `ViewFlag`.
 constexpr Setting settings[] = {
-    {"color", "screenbackground", lngWhite},
-    {"color", "gridbackground", lngWhite},
-    {"color", "gridlines", lngBlack},
+    {"color", "screenbackground", lngColorWhite},
+    {"color", "gridbackground", lngColorWhite},
+    {"color", "gridlines", lngColorBlack},
     {"color", "gridx", lngLightYellow},
     {"color", "gridcursor", lngBlue},
     {"color", "fontuser", lngBlue},
-    {"color", "fontcomputer", lngBlack},
+    {"color", "fontcomputer", lngColorBlack},
     {"color", "gridincorrectcell", lngRed},
     {"view", "statusbar", 1},
     {"view", "toolbar", 1},
@@ -54,6 +55,7 @@ constexpr std::size_t lngCursor =
 constexpr const Setting& settingCursor = settings[lngCursor];
 constexpr const Setting& settingStartup = settings[lngCursor + 1];
 constexpr const Setting& settingPath = settings[lngCursor + 2];
+static_assert(std::size(settings) == lngCursor + 3);
 
 const Setting& GetSetting(ColorKey key) {
     return settings[static_cast<std::size_t>(key)];
@@ -73,12 +75,8 @@ void Write(const Setting& setting, const std::string& strValue, const std::strin
 
 template <typename Whole>
 Whole ReadWhole(const Setting& setting, const std::string& strPath) {
-    const std::string strValue = Read(setting, strPath);
-    const char* const end = strValue.data() + strValue.size();
-    Whole value = 0;
-    const std::from_chars_result result = std::from_chars(strValue.data(), end, value);
-    const bool blnGood = result.ec == std::errc() && result.ptr == end;
-    return blnGood ? value : static_cast<Whole>(setting.lngDefault);
+    return ParseWhole<Whole>(Read(setting, strPath))
+        .value_or(static_cast<Whole>(setting.lngDefault));
 }
 
 struct LeadingNumber {
@@ -92,7 +90,7 @@ std::optional<LeadingNumber> ParseLeadingNumber(std::string_view strText) {
     // Words such as "inf" are numbers to the library, but not to a player.
     const std::size_t lngDigit = strText.starts_with('-') ? 1 : 0;
     constexpr std::string_view strStarts = "0123456789.";
-    if (lngDigit >= strText.size() || strStarts.find(strText[lngDigit]) == strStarts.npos)
+    if (lngDigit >= strText.size() || strStarts.find(strText[lngDigit]) == std::string_view::npos)
         return std::nullopt;
     LeadingNumber number;
     const char* const end = strText.data() + strText.size();
