@@ -16,7 +16,7 @@ public:
         std::random_device random;
         do {
             folder_ = std::filesystem::temp_directory_path() /
-                       ("cellora-test-" + std::to_string(random()) + std::to_string(random()));
+                      ("cellora-test-" + std::to_string(random()) + std::to_string(random()));
         } while (!std::filesystem::create_directory(folder_));
     }
 

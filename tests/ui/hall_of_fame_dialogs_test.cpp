@@ -330,8 +330,8 @@ TEST_F(TopTen, KeepsTheListWhenTheResetCannotBeWritten) {
     desktop.answers = {Answer::Yes};
     game.strProgramFolder = folder.Path("missing");
     ClickControl(*dialog, "cmdReset");
-    EXPECT_EQ(desktop.log, (Log{"beep", "box Reset Scores?", "hourglass", "arrow", "beep",
-                                "box Hall of Fame"}));
+    EXPECT_EQ(desktop.log,
+              (Log{"beep", "box Reset Scores?", "hourglass", "arrow", "beep", "box Hall of Fame"}));
     EXPECT_EQ(GetRows(), Log{"1|Ada|00:01:02"});
 }
 
