@@ -14,6 +14,9 @@ namespace cellora {
 
 namespace {
 
+/// A lock that has no holder's name in it after this time never gets one.
+constexpr int msNameless = 1000;
+
 /// A write on a full disk may stop short without an error; only going on with the rest tells.
 bool WriteAll(QSaveFile& file, std::string_view bytes) {
     while (!bytes.empty()) {
@@ -51,9 +54,17 @@ std::optional<std::string> ReadWholeFile(const std::string& strPath, std::size_t
 }
 
 struct FileLock::Impl {
-    explicit Impl(const std::string& strPath) : lock(QString::fromStdString(strPath + ".lock")) {
-        // However long a living holder keeps the lock, it is not taken from it.
-        lock.setStaleLockTime(0);
+    explicit Impl(const std::string& strPath) : lock(QString::fromStdString(strPath + ".lock")) {}
+
+    bool TryOnce() {
+        qint64 lngProcess = 0;
+        QString strHost;
+        QString strProgram;
+        // However long a living holder keeps the lock, it is not taken from it. Only a lock without
+        // a holder's name, left by a copy that was killed while making it, is judged by its age.
+        const bool blnNamed = lock.getLockInfo(&lngProcess, &strHost, &strProgram);
+        lock.setStaleLockTime(blnNamed ? 0 : msNameless);
+        return lock.tryLock(0);
     }
 
     QLockFile lock;
@@ -68,7 +79,7 @@ bool FileLock::TryLock(int msTimeout) {
     const Clock::time_point deadline = Clock::now() + std::chrono::milliseconds(msTimeout);
     // QLockFile's own waiting doubles its pauses up to seconds, which starves a copy of the program
     // beside one that takes the lock often.
-    while (!impl_->lock.tryLock(0)) {
+    while (!impl_->TryOnce()) {
         if (impl_->lock.error() != QLockFile::LockFailedError || Clock::now() >= deadline)
             return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(5));

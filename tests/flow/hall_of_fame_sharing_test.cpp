@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include "played_game.h"
+#include "tests/support/faults.h"
 
 namespace cellora {
 namespace {
@@ -34,31 +32,12 @@ bool InsertEntries(PlayedGame& played, int intCopy) {
     return true;
 }
 
-/// Starts a copy of the program that waits for the end of the pipe before it inserts.
-pid_t StartCopy(PlayedGame& played, int intCopy, const int (&aPipe)[2]) {
-    const pid_t pid = fork();
-    if (pid != 0)
-        return pid;
-    close(aPipe[1]);
-    char character = 0;
-    const bool blnStarted = read(aPipe[0], &character, 1) == 0;
-    _exit(blnStarted && InsertEntries(played, intCopy) ? 0 : 1);
-}
-
 TEST(HallOfFameSharing, LosesNoEntryOfTwoCopiesWritingAtOnce) {
     PlayedGame played;
-    int aPipe[2];
-    ASSERT_EQ(pipe(aPipe), 0);
-    pid_t aPid[intCopies];
-    for (int intCopy = 0; intCopy < intCopies; ++intCopy)
-        aPid[intCopy] = StartCopy(played, intCopy, aPipe);
-    close(aPipe[0]);
-    close(aPipe[1]);
-    for (const pid_t pid : aPid) {
-        int intStatus = -1;
-        ASSERT_EQ(waitpid(pid, &intStatus, 0), pid);
-        EXPECT_EQ(intStatus, 0);
-    }
+    ChildProcess first([&](const auto&) { return InsertEntries(played, 0); });
+    ChildProcess second([&](const auto&) { return InsertEntries(played, 1); });
+    EXPECT_EQ(first.Wait(), 0);
+    EXPECT_EQ(second.Wait(), 0);
     RecordedEntries expected;
     for (int intLevel = 1; intLevel <= intLevels; ++intLevel) {
         for (int i = 0; i < intEntriesPerLevel; ++i) {

@@ -1,5 +1,6 @@
 #include "store/replace_file.h"
 
+#include "tests/support/faults.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -7,11 +8,6 @@
 #include <chrono>
 #include <filesystem>
 #include <thread>
-
-#ifndef _WIN32
-#include <csignal>
-#include <sys/resource.h>
-#endif
 
 namespace cellora {
 namespace {
@@ -58,26 +54,6 @@ TEST(ReplaceFile, KeepsALinkAndTheModeOfTheFileBehindIt) {
     EXPECT_EQ(std::filesystem::status(strTarget).permissions(),
               std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
 }
-
-/// Lets no file grow beyond a size, as a disk that fills up does.
-class FileSizeLimit final {
-public:
-    explicit FileSizeLimit(rlim_t lngBytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &old_);
-        const rlimit limit{lngBytes, old_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, oldHandler_);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    rlimit old_{};
-    void (*oldHandler_)(int);
-};
 
 TEST(ReplaceFile, AWriteThatBreaksOffLeavesTheOldFileWhole) {
     const TemporaryFolder folder;
@@ -151,6 +127,17 @@ TEST(FileLock, TakesOverTheLockOfACopyThatIsGone) {
     folder.WriteBytes("file.lock", "2147483646\ncellora\n\n");
     FileLock lock(folder.Path("file"));
     EXPECT_TRUE(lock.TryLock(1000));
+}
+
+TEST(FileLock, TakesOverALockThatWasNeverFilledIn) {
+    const TemporaryFolder folder;
+    const std::string strLock = folder.WriteBytes("file.lock", "");
+    FileLock lock(folder.Path("file"));
+    EXPECT_FALSE(lock.TryLock(0)) << "its holder may be about to write its name";
+    std::filesystem::last_write_time(strLock, std::filesystem::file_time_type::clock::now() -
+                                                  std::chrono::seconds(10));
+    EXPECT_TRUE(lock.TryLock(0));
+    EXPECT_FALSE(FileLock(folder.Path("file")).TryLock(0));
 }
 
 } // namespace
