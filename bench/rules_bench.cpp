@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include "bench/idle_desktop.h"
 #include "core/levels.h"
 #include "core/modCreateSudoku.h"
 #include "flow/completion.h"
@@ -8,20 +9,6 @@
 
 namespace cellora {
 namespace {
-
-/// A desktop on which nothing happens; its time stands still.
-class IdleDesktop final : public Desktop {
-public:
-    Answer ShowMessageBox(const MessageBox&) override { return Answer::Ok; }
-    void Beep() override {}
-    void SetMousePointer(MousePointer) override {}
-    void EnableTimer(Timer, bool) override {}
-    void ShowModal(ModalWindow) override {}
-    void UnloadWindow(ModalWindow) override {}
-    void ShowPopup(PopupMenu) override {}
-    std::optional<std::string> PickFile(const FileRequest&) override { return {}; }
-    std::int32_t GetTimeOfDay() override { return 12 * 3600; }
-};
 
 void BM_CreateSolution(benchmark::State& state) {
     IdleDesktop desktop;
