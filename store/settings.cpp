@@ -1,13 +1,13 @@
 #include "store/settings.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <locale>
 #include <optional>
+#include <sstream>
 #include <string_view>
-#include <system_error>
 
 #include "core/modCommon_Constants.h"
 #include "core/text.h"
@@ -84,21 +84,45 @@ struct LeadingNumber {
     std::string_view strRest; ///< what follows the number
 };
 
+/// The length of the decimal number at the start of the text, 0 when there is none: digits with at
+/// most one point, and an exponent where digits follow its letter.
+std::size_t GetNumberLength(std::string_view strText) {
+    std::size_t lngAt = 0;
+    const auto Skip = [&](std::string_view strCharacters) {
+        const bool blnThere =
+            lngAt < strText.size() && strCharacters.find(strText[lngAt]) != std::string_view::npos;
+        lngAt += blnThere ? 1 : 0;
+        return blnThere;
+    };
+    const auto SkipDigits = [&] {
+        const std::size_t lngBegin = lngAt;
+        while (Skip("0123456789")) {
+        }
+        return lngAt - lngBegin;
+    };
+    Skip("-");
+    std::size_t lngDigits = SkipDigits();
+    if (Skip("."))
+        lngDigits += SkipDigits();
+    if (lngDigits == 0)
+        return 0;
+    const std::size_t lngEnd = lngAt;
+    if (!Skip("eE"))
+        return lngEnd;
+    Skip("+-");
+    return SkipDigits() > 0 ? lngAt : lngEnd;
+}
+
 std::optional<LeadingNumber> ParseLeadingNumber(std::string_view strText) {
     if (strText.starts_with('+'))
         strText.remove_prefix(1);
-    // Words such as "inf" are numbers to the library, but not to a player.
-    const std::size_t lngDigit = strText.starts_with('-') ? 1 : 0;
-    constexpr std::string_view strStarts = "0123456789.";
-    if (lngDigit >= strText.size() || strStarts.find(strText[lngDigit]) == std::string_view::npos)
-        return std::nullopt;
-    LeadingNumber number;
-    const char* const end = strText.data() + strText.size();
-    const std::from_chars_result result = std::from_chars(strText.data(), end, number.dblValue);
-    if (result.ec != std::errc())
-        return std::nullopt;
-    number.strRest = strText.substr(static_cast<std::size_t>(result.ptr - strText.data()));
-    return number;
+    const std::size_t lngLength = GetNumberLength(strText);
+    LeadingNumber number{.strRest = strText.substr(lngLength)};
+    // Not every standard library's from_chars knows floating point yet.
+    std::istringstream stream{std::string(strText.substr(0, lngLength))};
+    stream.imbue(std::locale::classic());
+    stream >> number.dblValue;
+    return stream.fail() ? std::nullopt : std::optional(number);
 }
 
 double ReadStartupNumber(const std::string& strPath) {

@@ -175,6 +175,9 @@ TEST(Settings, StartupTakesTheLeadingNumber) {
                           {"-1", -1, false},
                           {"1.5", 2, false},
                           {"0.5", 0, false},
+                          {"1e", 1, true},
+                          {"10e-1x", 1, true},
+                          {"1.0.0", 1, true},
                           {"inf", 0, false},
                           {"1e300", INT32_MAX, false},
                           {"1e999", 0, false}}) {
