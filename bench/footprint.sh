@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Measures what Cellora costs while it is merely there: the memory it takes with a game on the board,
-# and the processor time it burns in a while of nobody touching it while the clock runs. Beside it,
-# an empty Qt window of the same size with the same libraries loaded. Memory is the resident set, in
+# and the processor time it burns while nobody touches it and the clock runs. Beside it, an empty Qt
+# window of the same size with the same libraries loaded. Memory is the resident set, in
 # which a page shared with another program counts in full; the anonymous part is what is the
-# program's alone.
+# program's alone. For the processor time the floor is a window with a clock.
 # Usage: bench/footprint.sh [BUILD_FOLDER [IDLE_SECONDS]]
 set -euo pipefail
 here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
@@ -40,12 +40,25 @@ idle_time() {
         'BEGIN {printf "%.1f", (after - before) / 1e6}'
 }
 
-"$build/bench/cellora_empty_window" maximized 2>/dev/null &
-empty=$!
-sleep 2
-read -r empty_resident empty_anonymous < <(memory "$empty")
-empty_idle=$(idle_time "$empty")
-kill "$empty"
+# empty_window KIND: sets what such a window takes.
+empty_window() {
+    "$build/bench/cellora_empty_window" "$1" 2>/dev/null &
+    local empty=$!
+    sleep 2
+    read -r resident anonymous < <(memory "$empty")
+    idle=$(idle_time "$empty")
+    kill "$empty"
+}
+
+row() {
+    printf '%-16s %14s %14s %20s\n' "$@"
+}
+
+row "" "resident KiB" "anonymous KiB" "ms in $idle_seconds idle s"
+empty_window clock
+row "a clock alone" "$resident" "$anonymous" "$idle"
+empty_window maximized
+row "empty window" "$resident" "$anonymous" "$idle"
 
 "$work/cellora" 2>/dev/null &
 game=$!
@@ -60,10 +73,5 @@ until [[ -e $work/recovery.clp ]]; do # A second after the game has begun it is 
 done
 sleep 1
 read -r game_resident game_anonymous < <(memory "$game")
-game_idle=$(idle_time "$game")
-
-printf '%-16s %14s %14s %20s\n' "" "resident KiB" "anonymous KiB" "ms in $idle_seconds idle s"
-printf '%-16s %14d %14d %20s\n' \
-    "empty window" "$empty_resident" "$empty_anonymous" "$empty_idle" \
-    "game on board" "$game_resident" "$game_anonymous" "$game_idle" \
-    "difference" $((game_resident - empty_resident)) $((game_anonymous - empty_anonymous)) ""
+row "game on board" "$game_resident" "$game_anonymous" "$(idle_time "$game")"
+row "over empty" $((game_resident - resident)) $((game_anonymous - anonymous)) ""

@@ -11,7 +11,7 @@ set -euo pipefail
 build=$(readlink -f "${1:-$(dirname "${BASH_SOURCE[0]}")/../build/bench}")
 starts=${2:-21}
 if [[ -z "${CELLORA_START_TIME_DISPLAY:-}" ]]; then
-    export CELLORA_START_TIME_DISPLAY=1
+    export CELLORA_START_TIME_DISPLAY=1 QT_LOGGING_RULES="*=false"
     exec xvfb-run -a -s "-screen 0 1280x900x24" "${BASH_SOURCE[0]}" "$build" "$starts"
 fi
 
