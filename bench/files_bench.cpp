@@ -1,12 +1,12 @@
 #include <benchmark/benchmark.h>
 
-#include "bench/idle_desktop.h"
 #include "core/levels.h"
 #include "flow/completion.h"
 #include "flow/game_file.h"
 #include "flow/hall_of_fame.h"
 #include "flow/new_game.h"
 #include "play/check.h"
+#include "tests/support/idle_desktop.h"
 #include "tests/support/temporary_folder.h"
 
 /// The commands that read and write files, without the windows that ask for the file and the name.

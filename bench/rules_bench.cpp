@@ -1,10 +1,10 @@
 #include <benchmark/benchmark.h>
 
-#include "bench/idle_desktop.h"
 #include "core/levels.h"
 #include "core/modCreateSudoku.h"
 #include "flow/completion.h"
 #include "play/check.h"
+#include "tests/support/idle_desktop.h"
 #include "tests/support/literal_generator.h"
 
 namespace cellora {
