@@ -6,6 +6,7 @@
 
 #include "ui/look.h"
 #include "ui/pictures.h"
+#include "ui/text.h"
 #include "ui/twips.h"
 #include "ui/version_info.h"
 
@@ -21,22 +22,25 @@ frmSplash::frmSplash(Steps steps)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
       steps_(std::move(steps)) {
     setObjectName(QStringLiteral("frmSplash"));
-    setWindowTitle(QStringLiteral("Cellora"));
+    setWindowTitle(ToQString(strProductName));
     setFixedSize(ToPixelSize(5655, 2970));
     move(screen()->geometry().center() - rect().center());
     AddLabel(QStringLiteral("lblCopyright"), QLatin1String(strLegalNotice),
              ToPixelRect(840, 2520, 1575, 255), Qt::AlignLeft);
     AddLabel(QStringLiteral("lblVersion"), QStringLiteral("Version: ") + GetVersionText(),
              ToPixelRect(2880, 2520, 2055, 255), Qt::AlignRight);
-    for (QTimer* const timer : {&tmrSplash_, &tmrSplash2_})
+    for (QTimer* const timer : {&tmrSplash_, &tmrSplash2_}) {
+        // Coarse timers may be late or early by a twentieth, and these two would add it up.
+        timer->setTimerType(Qt::PreciseTimer);
         timer->setInterval(intInterval);
+    }
     connect(&tmrSplash_, &QTimer::timeout, this, &frmSplash::tmrSplash_Timer);
     connect(&tmrSplash2_, &QTimer::timeout, this, &frmSplash::tmrSplash2_Timer);
     tmrSplash_.start();
 }
 
-QLabel* frmSplash::AddLabel(const QString& strName, const QString& strText, QRect rect,
-                            Qt::Alignment alignment) {
+void frmSplash::AddLabel(const QString& strName, const QString& strText, QRect rect,
+                         Qt::Alignment alignment) {
     auto* const label = new QLabel(strText, this);
     label->setObjectName(strName);
     label->setAlignment(alignment | Qt::AlignTop);
@@ -46,7 +50,6 @@ QLabel* frmSplash::AddLabel(const QString& strName, const QString& strText, QRec
     label->setPalette(palette);
     // Loading the first font takes longer than the picture; the labels follow its first frame.
     label->hide();
-    return label;
 }
 
 void frmSplash::paintEvent(QPaintEvent*) {

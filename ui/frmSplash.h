@@ -5,8 +5,6 @@
 #include <QTimer>
 #include <QWidget>
 
-class QLabel;
-
 namespace cellora {
 
 /// The splash window: first a picture, a second later the main window disabled behind it, another
@@ -33,8 +31,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QLabel* AddLabel(const QString& strName, const QString& strText, QRect rect,
-                     Qt::Alignment alignment);
+    void AddLabel(const QString& strName, const QString& strText, QRect rect,
+                  Qt::Alignment alignment);
     void ShowLabels();
     void tmrSplash_Timer();
     void tmrSplash2_Timer();
