@@ -1,6 +1,7 @@
 #include "ui/board_accessible.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 
 #include "core/text.h"
 #include "ui/board_view.h"
@@ -15,7 +16,9 @@ constexpr int intSide = 9;
 class BoardTable;
 
 /// One cell of the table; it belongs to the table and lives as long.
-class BoardCell final : public QAccessibleInterface, public QAccessibleTableCellInterface {
+class BoardCell final : public QAccessibleInterface,
+                        public QAccessibleTableCellInterface,
+                        public QAccessibleActionInterface {
 public:
     BoardCell(BoardTable& table, int intCell) : table_(table), intCell_(intCell) {}
 
@@ -34,6 +37,8 @@ public:
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::TableCellInterface)
             return static_cast<QAccessibleTableCellInterface*>(this);
+        if (type == QAccessible::ActionInterface)
+            return static_cast<QAccessibleActionInterface*>(this);
         return nullptr;
     }
 
@@ -45,6 +50,12 @@ public:
     int columnExtent() const override { return 1; }
     int rowExtent() const override { return 1; }
     QAccessibleInterface* table() const override;
+
+    QStringList actionNames() const override {
+        return {setFocusAction(), pressAction(), showMenuAction()};
+    }
+    void doAction(const QString& strAction) override;
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
     int cell() const { return intCell_; }
 
@@ -165,6 +176,27 @@ bool BoardCell::isSelected() const {
     return table_.view().game().intCursorCell == intCell_;
 }
 
+void Perform(BoardView& view, int intCell, const QString& strAction) {
+    // Assistive technology reaches the board behind a modal window, where the mouse does not.
+    if (!view.isVisible() || !view.isEnabled() || QApplication::activeModalWidget() != nullptr)
+        return;
+    const QPoint center = view.mapToGlobal(view.GetCellRect(intCell).center());
+    if (strAction == QAccessibleActionInterface::setFocusAction())
+        emit view.cursorRequested(intCell);
+    else if (strAction == QAccessibleActionInterface::pressAction())
+        emit view.cellReleased(intCell, MouseButton::Left, center);
+    else if (strAction == QAccessibleActionInterface::showMenuAction())
+        emit view.cellReleased(intCell, MouseButton::Right, center);
+}
+
+void BoardCell::doAction(const QString& strAction) {
+    // Queued, because the last move of a game opens a window and the caller waits for the return.
+    BoardView* const view = &table_.view();
+    QMetaObject::invokeMethod(
+        view, [view, i = intCell_, strAction] { Perform(*view, i, strAction); },
+        Qt::QueuedConnection);
+}
+
 QAccessibleInterface* MakeBoardTable(const QString&, QObject* object) {
     auto* const view = qobject_cast<BoardView*>(object);
     return view != nullptr ? new BoardTable(*view) : nullptr;
@@ -182,8 +214,11 @@ QString GetCellName(const Game& game, int intCell) {
     const Cell& cell = game.cells[intCell];
     QString strName =
         QStringLiteral("Row %1, column %2: ").arg(GetRow(intCell) + 1).arg(GetColumn(intCell) + 1);
+    // A paused board cannot be studied, by eye or by ear.
+    if (game.blnPaused)
+        return strName + QStringLiteral("hidden");
     strName += GetContentName(cell);
-    if (cell.wrongMark.blnOpaque && !game.blnPaused)
+    if (cell.wrongMark.blnOpaque)
         strName += QStringLiteral(", incorrect");
     if (const auto strNotes = Trim(cell.strNotes); !strNotes.empty())
         strName += QStringLiteral(", notes ") + ToQString(strNotes);

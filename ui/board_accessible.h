@@ -14,7 +14,7 @@ namespace cellora {
 class BoardView;
 
 /// What a cell is called by assistive technology: where it is, what the player sees in it, whether
-/// it is marked wrong, and its notes.
+/// it is marked wrong, and its notes; of a paused board only where it is.
 QString GetCellName(const Game& game, int intCell);
 
 /// Makes every BoardView a table of cells; called once before the first window.

@@ -147,6 +147,13 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
 
 void BoardView::focusInEvent(QFocusEvent* event) {
     QGraphicsView::focusInEvent(event);
+    // Queued, because the toolkit itself tells of the whole view right after this event.
+    QMetaObject::invokeMethod(this, &BoardView::AnnounceFocus, Qt::QueuedConnection);
+}
+
+void BoardView::AnnounceFocus() {
+    if (!hasFocus())
+        return;
     QAccessibleEvent focus(this, QAccessible::Focus);
     focus.setChild(game_.intCursorCell - 1);
     QAccessible::updateAccessibility(&focus);

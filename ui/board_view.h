@@ -39,6 +39,9 @@ signals:
     void keyPressed(std::int16_t intKeyCode);
     void popupRequested(QPoint globalPosition);
 
+    /// The cursor is wanted on a cell and nothing else; keyboard and mouse have their own signals.
+    void cursorRequested(int intCell);
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -50,6 +53,7 @@ protected:
 
 private:
     void MirrorPointer();
+    void AnnounceFocus();
 
     const Game& game_;
     BoardScene& scene_;

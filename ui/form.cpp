@@ -42,6 +42,8 @@ void Form::ShowHelp() {
 
 void Form::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
+    // The style marks the control that has the keyboard from the first Tab on only.
+    setAttribute(Qt::WA_KeyboardFocusChange);
     const QRect rectScreen = screen()->geometry();
     move(rectScreen.center() - QPoint(frameGeometry().width(), frameGeometry().height()) / 2);
 }

@@ -69,6 +69,8 @@ void frmAbout::MakeComments() {
     txtComments_->setObjectName(QStringLiteral("txtComments"));
     txtComments_->setAccessibleName(QStringLiteral("Information"));
     txtComments_->setReadOnly(true);
+    // With a cursor, which shows where the keyboard is.
+    txtComments_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     txtComments_->setTabChangesFocus(true);
     txtComments_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     Place(txtComments_, 105, 390, 5520, 630);

@@ -55,6 +55,7 @@ void frmHelp::MakePicture() {
 void frmHelp::MakeTabs() {
     tab_ = new QTabWidget(this);
     tab_->setObjectName(QStringLiteral("tab"));
+    tab_->setAccessibleName(QStringLiteral("Instructions"));
     Place(tab_, 2160, 720, 5830, 3975);
     tab_->addTab(MakeInstructionsPage(), QStringLiteral("Instructions"));
     tab_->addTab(MakeControlsPage(), QStringLiteral("Controls"));

@@ -78,14 +78,11 @@ void frmMain::MakeClient() {
 void frmMain::MakeBorder() {
     picBorder_ = new QWidget(client_);
     picBorder_->setObjectName(QStringLiteral("picBorder"));
-    // A click beside the grid leaves the keyboard with the grid.
-    picBorder_->setFocusPolicy(Qt::ClickFocus);
     picBorder_->installEventFilter(this);
     picStatistics_ = new StatisticsPane(picBorder_);
     picButtons_ = new NumberSelector(picBorder_);
     picGrid_ = new BoardView(game_, scene_, picBorder_);
     picGrid_->hide();
-    picBorder_->setFocusProxy(picGrid_);
     connect(picGrid_, &BoardView::cellReleased, this,
             [this](int intCell, MouseButton button, QPoint position) {
                 popupPosition_ = position;
@@ -99,6 +96,10 @@ void frmMain::MakeBorder() {
         popupPosition_ = position;
         Do([](Game& game) { CellClick(game, game.intCursorCell, MouseButton::Right); });
     });
+    connect(picGrid_, &BoardView::cursorRequested, this, [this](int intCell) {
+        Do([&](Game& game) { MoveCursor(game, intCell); });
+        FocusGrid();
+    });
     connect(picButtons_, &NumberSelector::numberReleased, this,
             [this](int intNumber, bool blnRightButton, QPoint position) {
                 popupPosition_ = position;
@@ -108,6 +109,7 @@ void frmMain::MakeBorder() {
 
 void frmMain::MakePopups() {
     mnuRightClick_ = new CellPopup(this);
+    mnuRightClick_->setAccessibleName(QStringLiteral("Notes"));
     const auto Connect = [this](auto signal, auto fnCommand) {
         connect(mnuRightClick_, signal, this, [this, fnCommand](int intDigit) {
             Do([&](Game& game) { fnCommand(game, intDigit); });
@@ -118,6 +120,7 @@ void frmMain::MakePopups() {
     connect(mnuRightClick_, &CellPopup::removeAllChosen, this, [this] { Do(mnuRemoveAll_Click); });
     mnuButton_ = new QMenu(this);
     mnuButton_->setObjectName(QStringLiteral("mnuButton"));
+    mnuButton_->setAccessibleName(QStringLiteral("Number"));
     mnuHighlight_ = mnuButton_->addAction(QStringLiteral("Highlight"), this,
                                           [this] { Do(mnuHighlight_Click); });
     mnuHighlight_->setCheckable(true);
@@ -216,6 +219,9 @@ void frmMain::paintEvent(QPaintEvent* event) {
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (watched == client_ && event->type() == QEvent::Resize)
         Form_Resize();
+    // A click beside the grid leaves the keyboard with the grid.
+    if (watched == picBorder_ && event->type() == QEvent::MouseButtonPress)
+        FocusGrid();
     if (watched == picBorder_ && event->type() == QEvent::KeyPress)
         return picBorder_KeyDown(*static_cast<QKeyEvent*>(event));
     return QMainWindow::eventFilter(watched, event);

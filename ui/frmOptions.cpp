@@ -71,6 +71,7 @@ frmOptions::frmOptions(Game& game, QWidget* parent)
 void frmOptions::MakeTabs() {
     auto* const tab = new QTabWidget(this);
     tab->setObjectName(QStringLiteral("tab"));
+    tab->setAccessibleName(windowTitle());
     Place(tab, 120, 120, 5175, 2775);
     for (const char* const strTab : aTabs) {
         QFrame* const frame = MakePage(tab, QLatin1String(strTab));
@@ -122,6 +123,7 @@ void frmOptions::MakeSlot(QFrame* frame, int intSlotRow, double dblTop) {
     button->setIcon(MakeIcon(QStringLiteral("palette")));
     button->setIconSize(sizePalette);
     label->setBuddy(button);
+    cmdColor_[ToIndex(row.slot)] = button;
     connect(button, &QPushButton::clicked, this, [this, slot = row.slot] { cmdColor_Click(slot); });
 }
 
@@ -169,6 +171,7 @@ void frmOptions::ShowColor(ColorSlot slot) {
     palette.setColor(QPalette::Window, color);
     swatch->setPalette(palette);
     swatch->setAccessibleDescription(color.name());
+    cmdColor_[ToIndex(slot)]->setAccessibleDescription(color.name());
 }
 
 void frmOptions::cmdColor_Click(ColorSlot slot) {

@@ -35,6 +35,7 @@ private:
 
     Options options_;
     std::array<QFrame*, lngColorSlotCount> picColor_{};
+    std::array<QPushButton*, lngColorSlotCount> cmdColor_{};
     QCheckBox* chkCursor_ = nullptr;
     QPushButton* cmdApply_ = nullptr;
 };

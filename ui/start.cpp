@@ -9,6 +9,7 @@
 #include "store/program_folder.h"
 #include "store/settings.h"
 #include "ui/board_accessible.h"
+#include "ui/control_accessible.h"
 
 namespace cellora {
 
@@ -51,6 +52,7 @@ void Program::LoadMain() {
         PlaceFiles(game_.strProgramFolder);
         recovery_.emplace(game_.strProgramFolder);
         InstallBoardAccessibility();
+        InstallControlAccessibility();
         main_ = std::make_unique<frmMain>(game_, desktop_, *recovery_);
     }
     main_->setEnabled(false);

@@ -59,11 +59,13 @@ std::string DescribeCell(const Game& game, int i) {
     const Cell& cell = game.cells[i];
     std::string strName = "Row " + std::to_string(GetRow(i) + 1) + ", column " +
                           std::to_string(GetColumn(i) + 1) + ": ";
+    if (game.blnPaused)
+        return strName + "hidden";
     if (cell.blnGiven)
         strName += "given " + cell.strSolution;
     else
         strName += cell.strEntry.empty() ? "empty" : cell.strEntry;
-    if (cell.wrongMark.blnOpaque && !game.blnPaused)
+    if (cell.wrongMark.blnOpaque)
         strName += ", incorrect";
     if (!cell.strNotes.empty())
         strName += ", notes " + cell.strNotes.substr(0, cell.strNotes.size() - 1);

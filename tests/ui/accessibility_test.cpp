@@ -8,6 +8,8 @@
 
 #include "tests/support/running_program.h"
 #include "tests/support/scripted_desktop.h"
+#include "ui/link_label.h"
+#include "ui/modal_windows.h"
 
 namespace cellora {
 
@@ -47,7 +49,8 @@ TEST(CellName, SaysWhatThePlayerSees) {
     cell.wrongMark.blnOpaque = true;
     EXPECT_EQ(GetCellName(game, 16).toStdString(), "Row 2, column 7: 4, incorrect, notes 3 5 1");
     game.blnPaused = true;
-    EXPECT_EQ(GetCellName(game, 16).toStdString(), "Row 2, column 7: 4, notes 3 5 1");
+    EXPECT_EQ(GetCellName(game, 16).toStdString(), "Row 2, column 7: hidden");
+    game.blnPaused = false;
     cell = Cell{};
     cell.strSolution = "5";
     cell.blnGiven = true;
@@ -169,6 +172,87 @@ TEST(Accessibility, ValuesAndToolbarButtonsHaveNames) {
         EXPECT_EQ(GetName(QAccessible::queryAccessibleInterface(button)), button->toolTip());
     }
     EXPECT_EQ(intNamed, 6);
+}
+
+TEST(Accessibility, NothingButTheBoardHasTheFocusOfTheBoard) {
+    RunningProgram run;
+    run.StartGame();
+    for (QWidget* const widget : run.window().findChildren<QWidget*>()) {
+        QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(widget);
+        const bool blnBoard = widget == &run.grid() || widget == run.grid().viewport();
+        EXPECT_FALSE(interface->state().focused && !blnBoard) << widget->objectName().toStdString();
+    }
+    // A click beside the board takes the keyboard back to it.
+    run.button(1).setFocus(Qt::TabFocusReason);
+    QTest::mouseClick(&run.Get<QWidget>("picStatistics"), Qt::LeftButton);
+    EXPECT_TRUE(run.grid().hasFocus());
+}
+
+TEST(Accessibility, AGameIsPlayedByTheActionsOfItsCells) {
+    RunningProgram run;
+    run.StartGame();
+    const int intCell = run.FindEmptyCell();
+    QAccessibleInterface* const grid = QAccessible::queryAccessibleInterface(&run.grid());
+    const auto Do = [&](int i, const QString& strAction) {
+        grid->child(i - 1)->actionInterface()->doAction(strAction);
+        QCoreApplication::processEvents();
+    };
+    run.button(1).setFocus(Qt::TabFocusReason);
+    Do(intCell, QAccessibleActionInterface::setFocusAction());
+    EXPECT_EQ(run.game().intCursorCell, intCell);
+    EXPECT_EQ(run.game().cells[intCell].strEntry, "");
+    EXPECT_TRUE(run.grid().hasFocus());
+    Do(intCell, QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(run.game().cells[intCell].strEntry, "1");
+
+    Do(intCell, QAccessibleActionInterface::showMenuAction());
+    QMenu& menu = run.WaitForPopup("mnuRightClick");
+    EXPECT_EQ(GetName(QAccessible::queryAccessibleInterface(&menu)), QLatin1String("Notes"));
+    menu.close();
+
+    // Behind a modal window and on a locked board they do nothing.
+    run.modal.Then([&](QWidget& dialog) {
+        Do(80, QAccessibleActionInterface::setFocusAction());
+        dialog.close();
+    });
+    run.Choose("mnuPause");
+    run.grid().setEnabled(false);
+    Do(80, QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(run.game().intCursorCell, intCell);
+}
+
+TEST(Accessibility, ALinkIsALinkAndPanesAreGroups) {
+    RunningProgram run;
+    run.StartGame();
+    for (const char* const strPane : {"picStatistics", "picButtons"}) {
+        QAccessibleInterface* const pane =
+            QAccessible::queryAccessibleInterface(&run.Get<QWidget>(strPane));
+        EXPECT_EQ(pane->role(), QAccessible::Grouping) << strPane;
+        EXPECT_FALSE(GetName(pane).isEmpty()) << strPane;
+    }
+
+    LinkLabel link(nullptr);
+    link.setText(QStringLiteral("here"));
+    int intClicks = 0;
+    QObject::connect(&link, &LinkLabel::clicked, [&intClicks] { ++intClicks; });
+    QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(&link);
+    EXPECT_EQ(interface->role(), QAccessible::Link);
+    EXPECT_EQ(GetName(interface), QLatin1String("here"));
+    interface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(intClicks, 1);
+}
+
+TEST(Accessibility, AColorButtonTellsItsColor) {
+    RunningProgram run;
+    run.Start();
+    const auto form = MakeModalWindow(ModalWindow::frmOptions, run.game(), nullptr);
+    const auto GetDescription = [&form](const char* strButton) {
+        return QAccessible::queryAccessibleInterface(&GetControl<QPushButton>(*form, strButton))
+            ->text(QAccessible::Description)
+            .toStdString();
+    };
+    EXPECT_EQ(GetDescription("cmdColor0"), "#ffffff");
+    EXPECT_EQ(GetDescription("cmdColor7"), "#ffffc0");
 }
 
 } // namespace

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace cellora {
+
+/// Makes the program's own controls known for what they are: a LinkLabel is a link that can be
+/// pressed, a StatisticsPane and a NumberSelector are groups. Called once before the first window.
+void InstallControlAccessibility();
+
+} // namespace cellora
