@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -75,7 +76,8 @@ private:
         // A step may open the next window, so the polling goes on below it.
         tmrPoll_.start(intPollMilliseconds);
         QWidget* const window = QApplication::activeModalWidget();
-        if (window == nullptr || !window->isVisible())
+        // A window that is not on the screen yet may still be moved and sized under the mouse.
+        if (window == nullptr || !window->isVisible() || !window->windowHandle()->isExposed())
             return;
         if (window != handled_) {
             handled_ = window;
