@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 
 #include "play/entry.h"
-#include "ui/board_view.h"
+#include "ui/keys.h"
 #include "ui/text.h"
 
 namespace cellora {

@@ -16,6 +16,8 @@ public:
         setObjectName(QStringLiteral("mnuRightClick"));
     }
 
+    /// Takes captions, visibility and enabling of all entries from the game, which has prepared
+    /// them for the cell under the cursor.
     void Build(const Game& game);
 
 signals:

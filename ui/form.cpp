@@ -3,7 +3,8 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
+
+#include "ui/placing.h"
 
 namespace cellora {
 
@@ -20,18 +21,21 @@ void Form::Place(QWidget* widget, double dblLeft, double dblTop, double dblWidth
     widget->setGeometry(ToPixelRect(dblLeft, dblTop, dblWidth, dblHeight));
 }
 
-QLabel* Form::AddLabel(QWidget* parent, const QString& strText, double dblLeft, double dblTop,
-                       double dblWidth, double dblHeight, Qt::Alignment alignment) {
+QLabel* Form::AddLabel(QWidget* parent, const QString& strName, const QString& strText,
+                       double dblLeft, double dblTop, double dblWidth, double dblHeight,
+                       Qt::Alignment alignment) {
     auto* const label = new QLabel(strText, parent);
+    label->setObjectName(strName);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(alignment | Qt::AlignTop);
     Place(label, dblLeft, dblTop, dblWidth, dblHeight);
     return label;
 }
 
-QPushButton* Form::AddButton(QWidget* parent, const QString& strCaption, double dblLeft,
-                             double dblTop, double dblWidth, double dblHeight) {
+QPushButton* Form::AddButton(QWidget* parent, const QString& strName, const QString& strCaption,
+                             double dblLeft, double dblTop, double dblWidth, double dblHeight) {
     auto* const button = new QPushButton(strCaption, parent);
+    button->setObjectName(strName);
     Place(button, dblLeft, dblTop, dblWidth, dblHeight);
     return button;
 }
@@ -44,8 +48,7 @@ void Form::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     // The style marks the control that has the keyboard from the first Tab on only.
     setAttribute(Qt::WA_KeyboardFocusChange);
-    const QRect rectScreen = screen()->geometry();
-    move(rectScreen.center() - QPoint(frameGeometry().width(), frameGeometry().height()) / 2);
+    CenterOnScreen(*this);
 }
 
 void Form::changeEvent(QEvent* event) {

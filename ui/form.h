@@ -31,13 +31,16 @@ protected:
     static void Place(QWidget* widget, double dblLeft, double dblTop, double dblWidth,
                       double dblHeight);
 
-    QLabel* AddLabel(QWidget* parent, const QString& strText, double dblLeft, double dblTop,
-                     double dblWidth, double dblHeight = 255,
-                     Qt::Alignment alignment = Qt::AlignLeft);
+    /// A label of plain text at the top of its place in twips. It belongs to the parent.
+    static QLabel* AddLabel(QWidget* parent, const QString& strName, const QString& strText,
+                            double dblLeft, double dblTop, double dblWidth, double dblHeight = 255,
+                            Qt::Alignment alignment = Qt::AlignLeft);
 
-    /// Enter presses it while it has the keyboard; the form names its default button.
-    QPushButton* AddButton(QWidget* parent, const QString& strCaption, double dblLeft,
-                           double dblTop, double dblWidth = 1215, double dblHeight = 375);
+    /// A button at its place in twips, which belongs to the parent. Enter presses it while it has
+    /// the keyboard; the form names its default button.
+    static QPushButton* AddButton(QWidget* parent, const QString& strName,
+                                  const QString& strCaption, double dblLeft, double dblTop,
+                                  double dblWidth = 1215, double dblHeight = 375);
 
     /// Opens the Instructions window over this one.
     void ShowHelp();

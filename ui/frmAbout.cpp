@@ -45,19 +45,17 @@ void frmAbout::MakePictures() {
     };
     for (const PictureRow& row : aPictures) {
         const QRect& rect = row.rectInTwips;
-        QLabel* const picture = AddLabel(this, {}, rect.x(), rect.y(), rect.width(), rect.height());
-        picture->setObjectName(QLatin1String(row.strName));
+        QLabel* const picture = AddLabel(this, QLatin1String(row.strName), {}, rect.x(), rect.y(),
+                                         rect.width(), rect.height());
         picture->setPixmap(
             MakePixmap(QLatin1String(row.strPicture), picture->size(), devicePixelRatioF()));
     }
 }
 
 void frmAbout::MakeVersion() {
-    lblVersion_ = AddLabel(this, {}, 840, 2520, 1560);
-    lblVersion_->setObjectName(QStringLiteral("lblVersion"));
+    lblVersion_ = AddLabel(this, QStringLiteral("lblVersion"), {}, 840, 2520, 1560);
     MakeGrey(lblVersion_);
-    lblCopyright_ = AddLabel(this, {}, 2520, 2520, 3330);
-    lblCopyright_->setObjectName(QStringLiteral("lblCopyright"));
+    lblCopyright_ = AddLabel(this, QStringLiteral("lblCopyright"), {}, 2520, 2520, 3330);
     MakeGrey(lblCopyright_);
 }
 
@@ -77,8 +75,8 @@ void frmAbout::MakeComments() {
 }
 
 void frmAbout::MakeLink() {
-    AddLabel(this, QStringLiteral("Brought to you by -"), 240, 4320, 2880)
-        ->setObjectName(QStringLiteral("Label1"));
+    AddLabel(this, QStringLiteral("Label1"), QStringLiteral("Brought to you by -"), 240, 4320,
+             2880);
     lblCompany_ = new LinkLabel(this);
     lblCompany_->setObjectName(QStringLiteral("lblCompany"));
     lblCompany_->setToolTip(QStringLiteral("Internet connection required..."));
@@ -88,16 +86,16 @@ void frmAbout::MakeLink() {
 }
 
 void frmAbout::MakeButtons() {
-    QPushButton* const cmdOK = AddButton(this, QStringLiteral("OK"), 3240, 4440, 1260, 345);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    QPushButton* const cmdOK =
+        AddButton(this, QStringLiteral("cmdOK"), QStringLiteral("OK"), 3240, 4440, 1260, 345);
     cmdOK->setAutoDefault(true);
     cmdOK->setDefault(true);
     cmdOK->setFocus();
     connect(cmdOK, &QPushButton::clicked, this, &frmAbout::accept);
 
     QPushButton* const cmdSysInfo =
-        AddButton(this, QStringLiteral("&System Info..."), 4560, 4440, 1245, 345);
-    cmdSysInfo->setObjectName(QStringLiteral("cmdSysInfo"));
+        AddButton(this, QStringLiteral("cmdSysInfo"), QStringLiteral("&System Info..."), 4560, 4440,
+                  1245, 345);
     cmdSysInfo->setAutoDefault(true);
     connect(cmdSysInfo, &QPushButton::clicked, this, [this] { ShowSystemInfo(game()); });
 }

@@ -2,7 +2,8 @@
 
 #include <QColorDialog>
 #include <QPrintDialog>
-#include <QScreen>
+
+#include "ui/placing.h"
 
 namespace cellora {
 
@@ -10,7 +11,7 @@ namespace {
 
 bool ShowCentered(QDialog& cdg) {
     cdg.adjustSize();
-    cdg.move(cdg.screen()->geometry().center() - cdg.rect().center());
+    CenterOnScreen(cdg);
     return cdg.exec() == QDialog::Accepted;
 }
 

@@ -65,8 +65,8 @@ frmEnterName::frmEnterName(Game& game, QWidget* parent)
 }
 
 void frmEnterName::done(int intResult) {
-    if (txtName->text().isEmpty() && WantsToEnterName())
-        txtName->setFocus();
+    if (txtName_->text().isEmpty() && WantsToEnterName())
+        txtName_->setFocus();
     else
         Form::done(intResult);
 }
@@ -76,8 +76,7 @@ void frmEnterName::ShowMedal() {
     if (intRank > LevelEntries::size())
         return; // another copy of the program took the last place meanwhile
     const QString strRank = QString::number(intRank);
-    QLabel* const picMedal = AddLabel(this, {}, 330, 360, 1440, 1440);
-    picMedal->setObjectName(QStringLiteral("picMedal"));
+    QLabel* const picMedal = AddLabel(this, QStringLiteral("picMedal"), {}, 330, 360, 1440, 1440);
     picMedal->setAccessibleName(QStringLiteral("Medal for rank %1").arg(strRank));
     picMedal->setPixmap(MakePixmap(QStringLiteral("medal_%1").arg(strRank),
                                    {intMedalSize, intMedalSize}, devicePixelRatioF()));
@@ -85,45 +84,43 @@ void frmEnterName::ShowMedal() {
 
 void frmEnterName::MakeLabels() {
     QLabel* const lblCongratulations =
-        AddLabel(this,
+        AddLabel(this, QStringLiteral("lblCongratulations"),
                  QStringLiteral("You have successfully completed a %1 game of the 'Cellora'.")
                      .arg(ToQString(game().lblLevel)),
                  dblTextLeft, 240, dblTextWidth, 420);
-    lblCongratulations->setObjectName(QStringLiteral("lblCongratulations"));
     lblCongratulations->setWordWrap(true);
 
     QLabel* const lblTime =
-        AddLabel(this, QStringLiteral("Your time was %1.").arg(ToQString(game().lblTime)),
-                 dblTextLeft, 675, dblTextWidth, 300);
-    lblTime->setObjectName(QStringLiteral("lblTime"));
+        AddLabel(this, QStringLiteral("lblTime"),
+                 QStringLiteral("Your time was %1.").arg(ToQString(game().lblTime)), dblTextLeft,
+                 675, dblTextWidth, 300);
     lblTime->setFont(MakeFont(9.75, Weight::Bold));
 }
 
 void frmEnterName::MakeNameBox() {
-    QLabel* const lblName =
-        AddLabel(this, QStringLiteral("Enter your name into the 'Hall of Fame'"), dblTextLeft, 1095,
-                 dblTextWidth);
-    lblName->setObjectName(QStringLiteral("lblName"));
-    txtName = new QLineEdit(this);
-    txtName->setObjectName(QStringLiteral("txtName"));
-    txtName->setAccessibleName(lblName->text());
-    txtName->setValidator(new NameValidator(txtName));
-    Place(txtName, dblTextLeft, 1350, dblTextWidth, 360);
-    lblName->setBuddy(txtName);
+    QLabel* const lblName = AddLabel(this, QStringLiteral("lblName"),
+                                     QStringLiteral("Enter your name into the 'Hall of Fame'"),
+                                     dblTextLeft, 1095, dblTextWidth);
+    txtName_ = new QLineEdit(this);
+    txtName_->setObjectName(QStringLiteral("txtName"));
+    txtName_->setAccessibleName(lblName->text());
+    txtName_->setValidator(new NameValidator(txtName_));
+    Place(txtName_, dblTextLeft, 1350, dblTextWidth, 360);
+    lblName->setBuddy(txtName_);
 }
 
 void frmEnterName::MakeButtons() {
-    QPushButton* const cmdOK = AddButton(this, QStringLiteral("OK"), 3375, 2025);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    QPushButton* const cmdOK =
+        AddButton(this, QStringLiteral("cmdOK"), QStringLiteral("OK"), 3375, 2025);
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &frmEnterName::cmdOK_Click);
 
-    QPushButton* const cmdCancel = AddButton(this, QStringLiteral("Cancel"), 4710, 2025);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    QPushButton* const cmdCancel =
+        AddButton(this, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), 4710, 2025);
     connect(cmdCancel, &QPushButton::clicked, this, &frmEnterName::reject);
 
-    QPushButton* const cmdHelp = AddButton(this, QStringLiteral("Help"), 6045, 2025);
-    cmdHelp->setObjectName(QStringLiteral("cmdHelp"));
+    QPushButton* const cmdHelp =
+        AddButton(this, QStringLiteral("cmdHelp"), QStringLiteral("Help"), 6045, 2025);
     connect(cmdHelp, &QPushButton::clicked, this, &frmEnterName::ShowHelp);
 }
 
@@ -142,7 +139,7 @@ bool frmEnterName::WantsToEnterName() {
 }
 
 void frmEnterName::cmdOK_Click() {
-    if (const QString strName = txtName->text(); !strName.isEmpty()) {
+    if (const QString strName = txtName_->text(); !strName.isEmpty()) {
         if (const auto reason = SaveHallOfFameEntry(game(), ToStdString(strName))) {
             ShowHallOfFameError(game(), *reason);
             return;

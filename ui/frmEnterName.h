@@ -28,7 +28,7 @@ private:
 
     void cmdOK_Click();
 
-    QLineEdit* txtName = nullptr;
+    QLineEdit* txtName_ = nullptr;
 };
 
 } // namespace cellora

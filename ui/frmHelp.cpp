@@ -17,13 +17,13 @@ frmHelp::frmHelp(Game& game, QWidget* parent)
     : Form(game, ToQString(strProductName), {8100, 5055}, parent) {
     setObjectName(QStringLiteral("frmHelp"));
     MakePicture();
-    QLabel* const lblWelcome = AddLabel(this, QStringLiteral("Welcome..."), 2160, 150, 5655, 495);
-    lblWelcome->setObjectName(QStringLiteral("Label1"));
+    QLabel* const lblWelcome = AddLabel(this, QStringLiteral("Label1"),
+                                        QStringLiteral("Welcome..."), 2160, 150, 5655, 495);
     lblWelcome->setFont(MakeFont(18, Weight::Bold));
     MakeTabs();
 
-    QPushButton* const cmdOK = AddButton(this, QStringLiteral("OK"), 120, 4200, 1815, 495);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    QPushButton* const cmdOK =
+        AddButton(this, QStringLiteral("cmdOK"), QStringLiteral("OK"), 120, 4200, 1815, 495);
     cmdOK->setDefault(true);
     cmdOK->setFocus();
     connect(cmdOK, &QPushButton::clicked, this, &frmHelp::accept);
@@ -46,8 +46,7 @@ void frmHelp::done(int intResult) {
 }
 
 void frmHelp::MakePicture() {
-    QLabel* const picture = AddLabel(this, {}, 120, 240, 1785, 3825);
-    picture->setObjectName(QStringLiteral("Picture1"));
+    QLabel* const picture = AddLabel(this, QStringLiteral("Picture1"), {}, 120, 240, 1785, 3825);
     picture->setPixmap(
         MakePixmap(QStringLiteral("instructions"), picture->size(), devicePixelRatioF()));
 }

@@ -18,6 +18,7 @@
 #include "play/notes.h"
 #include "play/selector.h"
 #include "ui/board_view.h"
+#include "ui/keys.h"
 #include "ui/look.h"
 #include "ui/number_selector.h"
 #include "ui/pictures.h"

@@ -1,6 +1,5 @@
 #include <QLayout>
 #include <QMenuBar>
-#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -8,6 +7,7 @@
 #include "ui/board_view.h"
 #include "ui/frmMain.h"
 #include "ui/number_selector.h"
+#include "ui/placing.h"
 #include "ui/statistics_pane.h"
 #include "ui/twips.h"
 
@@ -25,12 +25,6 @@ constexpr int intFittingMilliseconds = 1000;
 void PlaceElement(QWidget& widget, const LayoutRect& rect) {
     if (rect.dblWidth >= 0 && rect.dblHeight >= 0)
         widget.setGeometry(ToPixelRect(rect.dblLeft, rect.dblTop, rect.dblWidth, rect.dblHeight));
-}
-
-void CenterOnScreen(QWidget& window) {
-    const QSize sizeFree = window.screen()->geometry().size() - window.frameGeometry().size();
-    window.move(window.screen()->geometry().topLeft() +
-                QPoint(sizeFree.width() / 2, sizeFree.height() / 2));
 }
 
 } // namespace

@@ -22,43 +22,42 @@ void frmNew::done(int intResult) {
 }
 
 void frmNew::MakeLabels() {
-    AddLabel(this, QStringLiteral("Please select your level of play -"), 240, 240, 3255)
-        ->setObjectName(QStringLiteral("Label2"));
-    AddLabel(this, QStringLiteral("Level 1 (easiest)... up to Level 30 (hardest)"), 240, 480, 3255)
-        ->setObjectName(QStringLiteral("Label3"));
+    AddLabel(this, QStringLiteral("Label2"), QStringLiteral("Please select your level of play -"),
+             240, 240, 3255);
+    AddLabel(this, QStringLiteral("Label3"),
+             QStringLiteral("Level 1 (easiest)... up to Level 30 (hardest)"), 240, 480, 3255);
 }
 
 void frmNew::MakeLevelBox() {
-    QLabel* const Label1 =
-        AddLabel(this, QStringLiteral("Difficulty"), 480, 1000, 735, 255, Qt::AlignRight);
-    Label1->setObjectName(QStringLiteral("Label1"));
-    cboDifficulty = new QComboBox(this);
-    cboDifficulty->setObjectName(QStringLiteral("cboDifficulty"));
-    cboDifficulty->setAccessibleName(Label1->text());
-    cboDifficulty->setMaxVisibleItems(15);
+    QLabel* const Label1 = AddLabel(this, QStringLiteral("Label1"), QStringLiteral("Difficulty"),
+                                    480, 1000, 735, 255, Qt::AlignRight);
+    cboDifficulty_ = new QComboBox(this);
+    cboDifficulty_->setObjectName(QStringLiteral("cboDifficulty"));
+    cboDifficulty_->setAccessibleName(Label1->text());
+    cboDifficulty_->setMaxVisibleItems(15);
     for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
-        cboDifficulty->addItem(ToQString(GetLevelName(intLevel)));
-    Place(cboDifficulty, 1440, 960, 1815, 315);
-    Label1->setBuddy(cboDifficulty);
+        cboDifficulty_->addItem(ToQString(GetLevelName(intLevel)));
+    Place(cboDifficulty_, 1440, 960, 1815, 315);
+    Label1->setBuddy(cboDifficulty_);
 }
 
 void frmNew::MakeButtons() {
-    QPushButton* const cmdOK = AddButton(this, QStringLiteral("OK"), 3720, 240);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    QPushButton* const cmdOK =
+        AddButton(this, QStringLiteral("cmdOK"), QStringLiteral("OK"), 3720, 240);
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &frmNew::cmdOK_Click);
 
-    QPushButton* const cmdCancel = AddButton(this, QStringLiteral("Cancel"), 3720, 720);
-    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    QPushButton* const cmdCancel =
+        AddButton(this, QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), 3720, 720);
     connect(cmdCancel, &QPushButton::clicked, this, &frmNew::reject);
 
-    QPushButton* const cmdHelp = AddButton(this, QStringLiteral("Help"), 3720, 1200);
-    cmdHelp->setObjectName(QStringLiteral("cmdHelp"));
+    QPushButton* const cmdHelp =
+        AddButton(this, QStringLiteral("cmdHelp"), QStringLiteral("Help"), 3720, 1200);
     connect(cmdHelp, &QPushButton::clicked, this, &frmNew::ShowHelp);
 }
 
 void frmNew::cmdOK_Click() {
-    StartNewGame(game(), ToStdString(cboDifficulty->currentText()));
+    StartNewGame(game(), ToStdString(cboDifficulty_->currentText()));
     emit gameChanged();
 }
 

@@ -24,7 +24,7 @@ private:
 
     void cmdOK_Click();
 
-    QComboBox* cboDifficulty = nullptr;
+    QComboBox* cboDifficulty_ = nullptr;
 };
 
 } // namespace cellora

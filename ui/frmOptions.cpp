@@ -104,7 +104,8 @@ QFrame* frmOptions::MakePage(QTabWidget* tab, const QString& strCaption) {
 void frmOptions::MakeSlot(QFrame* frame, int intSlotRow, double dblTop) {
     const SlotRow& row = aSlotRows[intSlotRow];
     QLabel* const label =
-        AddLabel(frame, QLatin1String(row.strLabel), 150, dblTop, 1275, dblRowHeight);
+        AddLabel(frame, QStringLiteral("lblColor%1").arg(static_cast<int>(row.slot)),
+                 QLatin1String(row.strLabel), 150, dblTop, 1275, dblRowHeight);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
     auto* const swatch = new QFrame(frame);
@@ -115,8 +116,8 @@ void frmOptions::MakeSlot(QFrame* frame, int intSlotRow, double dblTop) {
     picColor_[ToIndex(row.slot)] = swatch;
 
     QPushButton* const button =
-        AddButton(frame, {}, dblColorButtonLeft, dblTop, dblRowHeight, dblRowHeight);
-    button->setObjectName(QStringLiteral("cmdColor%1").arg(static_cast<int>(row.slot)));
+        AddButton(frame, QStringLiteral("cmdColor%1").arg(static_cast<int>(row.slot)), {},
+                  dblColorButtonLeft, dblTop, dblRowHeight, dblRowHeight);
     button->setAutoDefault(true);
     button->setToolTip(QLatin1String(row.strToolTip));
     button->setAccessibleName(MakeAccessibleName(button->toolTip()));
@@ -144,8 +145,8 @@ void frmOptions::MakeButtons() {
     };
     double dblLeft = 120;
     for (const ButtonRow& row : aButtons) {
-        QPushButton* const button = AddButton(this, QLatin1String(row.strCaption), dblLeft, 3120);
-        button->setObjectName(QLatin1String(row.strName));
+        QPushButton* const button = AddButton(this, QLatin1String(row.strName),
+                                              QLatin1String(row.strCaption), dblLeft, 3120);
         button->setToolTip(QLatin1String(row.strToolTip));
         button->setAutoDefault(true);
         connect(button, &QPushButton::clicked, this, row.fnClick);

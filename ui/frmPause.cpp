@@ -19,18 +19,18 @@ frmPause::frmPause(Game& game, QWidget* parent)
     : Form(game, QStringLiteral(" "), {intWidth, 1950}, parent) {
     setAccessibleName(QStringLiteral("Game paused"));
 
-    QLabel* const lblPaused = AddLabel(this, QStringLiteral("GAME PAUSED"), 240, 285,
-                                       intWidth - 480, 375, Qt::AlignHCenter);
-    lblPaused->setObjectName(QStringLiteral("lblPaused"));
+    QLabel* const lblPaused =
+        AddLabel(this, QStringLiteral("lblPaused"), QStringLiteral("GAME PAUSED"), 240, 285,
+                 intWidth - 480, 375, Qt::AlignHCenter);
     lblPaused->setFont(MakeFont(14, Weight::Bold));
 
-    AddLabel(this, QStringLiteral("Click 'Continue' to resume playing the game..."), 240, 780,
-             intWidth - 480, 255, Qt::AlignHCenter)
-        ->setObjectName(QStringLiteral("lblResume"));
+    AddLabel(this, QStringLiteral("lblResume"),
+             QStringLiteral("Click 'Continue' to resume playing the game..."), 240, 780,
+             intWidth - 480, 255, Qt::AlignHCenter);
 
-    QPushButton* const cmdContinue = AddButton(
-        this, QStringLiteral("Continue"), (intWidth - intButtonWidth) / 2.0, 1290, intButtonWidth);
-    cmdContinue->setObjectName(QStringLiteral("cmdContinue"));
+    QPushButton* const cmdContinue =
+        AddButton(this, QStringLiteral("cmdContinue"), QStringLiteral("Continue"),
+                  (intWidth - intButtonWidth) / 2.0, 1290, intButtonWidth);
     cmdContinue->setDefault(true);
     connect(cmdContinue, &QPushButton::clicked, this, &frmPause::accept);
 }

@@ -2,10 +2,10 @@
 
 #include <QLabel>
 #include <QPainter>
-#include <QScreen>
 
 #include "ui/look.h"
 #include "ui/pictures.h"
+#include "ui/placing.h"
 #include "ui/text.h"
 #include "ui/twips.h"
 #include "ui/version_info.h"
@@ -24,7 +24,7 @@ frmSplash::frmSplash(Steps steps)
     setObjectName(QStringLiteral("frmSplash"));
     setWindowTitle(ToQString(strProductName));
     setFixedSize(ToPixelSize(5655, 2970));
-    move(screen()->geometry().center() - rect().center());
+    CenterOnScreen(*this);
     AddLabel(QStringLiteral("lblCopyright"), QLatin1String(strLegalNotice),
              ToPixelRect(840, 2520, 1575, 255), Qt::AlignLeft);
     AddLabel(QStringLiteral("lblVersion"), QStringLiteral("Version: ") + GetVersionText(),

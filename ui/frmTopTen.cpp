@@ -65,7 +65,7 @@ frmTopTen::frmTopTen(Game& game, QWidget* parent)
     Place(tabTopTen, 180, 180, 6390, 5475);
     MakeButtons();
     ShowStartingLevel();
-    cboLevel->setFocus();
+    cboLevel_->setFocus();
 }
 
 QWidget* frmTopTen::MakePage() {
@@ -75,7 +75,7 @@ QWidget* frmTopTen::MakePage() {
     layout->setSpacing(10);
     layout->addWidget(MakeLevelBox(page));
     MakeList(page);
-    layout->addWidget(lvwTopTen);
+    layout->addWidget(lvwTopTen_);
     return page;
 }
 
@@ -85,68 +85,68 @@ QWidget* frmTopTen::MakeLevelBox(QWidget* page) {
     layout->setContentsMargins(0, 0, 0, 0);
     auto* const lblLevel = new QLabel(QStringLiteral("Difficulty Level"), row);
     lblLevel->setObjectName(QStringLiteral("lblLevel"));
-    cboLevel = new QComboBox(row);
-    cboLevel->setObjectName(QStringLiteral("cboLevel"));
-    cboLevel->setAccessibleName(lblLevel->text());
-    cboLevel->setMaxVisibleItems(15);
-    cboLevel->setMinimumWidth(ToPixels(1815));
+    cboLevel_ = new QComboBox(row);
+    cboLevel_->setObjectName(QStringLiteral("cboLevel"));
+    cboLevel_->setAccessibleName(lblLevel->text());
+    cboLevel_->setMaxVisibleItems(15);
+    cboLevel_->setMinimumWidth(ToPixels(1815));
     for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
-        cboLevel->addItem(ToQString(GetLevelName(intLevel)));
-    lblLevel->setBuddy(cboLevel);
-    connect(cboLevel, &QComboBox::currentIndexChanged, this, &frmTopTen::cboLevel_Click);
+        cboLevel_->addItem(ToQString(GetLevelName(intLevel)));
+    lblLevel->setBuddy(cboLevel_);
+    connect(cboLevel_, &QComboBox::currentIndexChanged, this, &frmTopTen::cboLevel_Click);
     layout->addWidget(lblLevel);
-    layout->addWidget(cboLevel);
+    layout->addWidget(cboLevel_);
     layout->addStretch();
     return row;
 }
 
 void frmTopTen::MakeList(QWidget* page) {
-    lvwTopTen = new QTreeWidget(page);
-    lvwTopTen->setObjectName(QStringLiteral("lvwTopTen"));
-    lvwTopTen->setAccessibleName(QStringLiteral("Best times"));
+    lvwTopTen_ = new QTreeWidget(page);
+    lvwTopTen_->setObjectName(QStringLiteral("lvwTopTen"));
+    lvwTopTen_->setAccessibleName(QStringLiteral("Best times"));
     auto* const style = new ListStyle;
-    style->setParent(lvwTopTen);
-    lvwTopTen->setStyle(style);
-    lvwTopTen->header()->setStyle(style);
-    lvwTopTen->setRootIsDecorated(false);
-    lvwTopTen->setUniformRowHeights(true);
-    lvwTopTen->setAlternatingRowColors(true);
-    lvwTopTen->setAllColumnsShowFocus(true);
-    lvwTopTen->setIconSize({intMedalSize, intMedalSize});
+    style->setParent(lvwTopTen_);
+    lvwTopTen_->setStyle(style);
+    lvwTopTen_->header()->setStyle(style);
+    lvwTopTen_->setRootIsDecorated(false);
+    lvwTopTen_->setUniformRowHeights(true);
+    lvwTopTen_->setAlternatingRowColors(true);
+    lvwTopTen_->setAllColumnsShowFocus(true);
+    lvwTopTen_->setIconSize({intMedalSize, intMedalSize});
     MakeColumns();
 }
 
 void frmTopTen::MakeColumns() {
-    lvwTopTen->setColumnCount(static_cast<int>(std::size(aColumns)));
-    lvwTopTen->header()->setStretchLastSection(false);
-    lvwTopTen->header()->setSectionsMovable(false);
-    lvwTopTen->header()->setSectionsClickable(false);
+    lvwTopTen_->setColumnCount(static_cast<int>(std::size(aColumns)));
+    lvwTopTen_->header()->setStretchLastSection(false);
+    lvwTopTen_->header()->setSectionsMovable(false);
+    lvwTopTen_->header()->setSectionsClickable(false);
     for (const Column& column : aColumns) {
-        lvwTopTen->headerItem()->setText(column.intIndex, QLatin1String(column.strTitle));
-        lvwTopTen->headerItem()->setTextAlignment(column.intIndex,
-                                                  column.alignment | Qt::AlignVCenter);
-        lvwTopTen->header()->setSectionResizeMode(column.intIndex, column.resizeMode);
+        lvwTopTen_->headerItem()->setText(column.intIndex, QLatin1String(column.strTitle));
+        lvwTopTen_->headerItem()->setTextAlignment(column.intIndex,
+                                                   column.alignment | Qt::AlignVCenter);
+        lvwTopTen_->header()->setSectionResizeMode(column.intIndex, column.resizeMode);
     }
 }
 
 void frmTopTen::MakeButtons() {
-    QPushButton* const cmdOK = AddButton(this, QStringLiteral("OK"), 4020, 5835);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    QPushButton* const cmdOK =
+        AddButton(this, QStringLiteral("cmdOK"), QStringLiteral("OK"), 4020, 5835);
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &frmTopTen::accept);
 
-    QPushButton* const cmdHelp = AddButton(this, QStringLiteral("&Help"), 5355, 5835);
-    cmdHelp->setObjectName(QStringLiteral("cmdHelp"));
+    QPushButton* const cmdHelp =
+        AddButton(this, QStringLiteral("cmdHelp"), QStringLiteral("&Help"), 5355, 5835);
     connect(cmdHelp, &QPushButton::clicked, this, &frmTopTen::ShowHelp);
 
-    QPushButton* const cmdReset = AddButton(this, QStringLiteral("Reset"), 180, 5835);
-    cmdReset->setObjectName(QStringLiteral("cmdReset"));
+    QPushButton* const cmdReset =
+        AddButton(this, QStringLiteral("cmdReset"), QStringLiteral("Reset"), 180, 5835);
     connect(cmdReset, &QPushButton::clicked, this, &frmTopTen::cmdReset_Click);
 }
 
 void frmTopTen::ShowStartingLevel() {
     const int intLevel = std::max<int>(GetHighestRecordedLevel(game()), 1);
-    cboLevel->setCurrentIndex(intLevel - 1);
+    cboLevel_->setCurrentIndex(intLevel - 1);
     ShowTopTenLevel(intLevel);
 }
 
@@ -164,7 +164,7 @@ void frmTopTen::ShowTopTenLevel(int intLevel) {
 void frmTopTen::AddRow(int intRank, const HallOfFameEntry& entry) {
     const QString strName = ToQString(entry.strName);
     auto* const row = new QTreeWidgetItem(
-        lvwTopTen, {QString::number(intRank), strName, ToQString(FormatEntryTime(entry))});
+        lvwTopTen_, {QString::number(intRank), strName, ToQString(FormatEntryTime(entry))});
     row->setSizeHint(columnRank.intIndex, {0, intRowHeight});
     row->setToolTip(
         columnName.intIndex,
@@ -179,11 +179,11 @@ void frmTopTen::AddRow(int intRank, const HallOfFameEntry& entry) {
 }
 
 void frmTopTen::ClearTopTenList() {
-    lvwTopTen->clear();
+    lvwTopTen_->clear();
 }
 
 void frmTopTen::cboLevel_Click() {
-    ShowTopTenLevel(GetLevelNumber(ToStdString(cboLevel->currentText())));
+    ShowTopTenLevel(GetLevelNumber(ToStdString(cboLevel_->currentText())));
 }
 
 void frmTopTen::cmdReset_Click() {

@@ -32,8 +32,8 @@ private:
     void cboLevel_Click();
     void cmdReset_Click();
 
-    QComboBox* cboLevel = nullptr;
-    QTreeWidget* lvwTopTen = nullptr;
+    QComboBox* cboLevel_ = nullptr;
+    QTreeWidget* lvwTopTen_ = nullptr;
 };
 
 } // namespace cellora

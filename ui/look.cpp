@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QWidget>
 
 namespace cellora {
 
@@ -85,6 +86,13 @@ QColor ToQColor(Color lngColor) {
 
 Color ToColor(const QColor& color) {
     return MakeColor(color.red(), color.green(), color.blue());
+}
+
+void SetBackColor(QWidget& pane, Color lngColor) {
+    QPalette palette = pane.palette();
+    palette.setColor(QPalette::Window, ToQColor(lngColor));
+    pane.setPalette(palette);
+    pane.setAutoFillBackground(true);
 }
 
 void ApplyLook(QApplication& application) {

@@ -6,6 +6,7 @@
 #include "core/modCommon_Constants.h"
 
 class QApplication;
+class QWidget;
 
 /// Fonts, colours and style of the whole program: one light palette, whatever the desktop's theme.
 namespace cellora {
@@ -22,6 +23,9 @@ QColor ToQColor(Color lngColor);
 
 /// Any colour without its transparency.
 Color ToColor(const QColor& color);
+
+/// Gives a pane a plain background.
+void SetBackColor(QWidget& pane, Color lngColor);
 
 /// Sets style, palette and default font (8 point).
 void ApplyLook(QApplication& application);

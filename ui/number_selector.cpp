@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "ui/board_view.h"
+#include "ui/keys.h"
 #include "ui/look.h"
 #include "ui/pictures.h"
 #include "ui/twips.h"
@@ -134,13 +135,6 @@ void NumberSelector::Mirror(const Game& game) {
         setEnabled(game.picButtons.blnEnabled);
     if (isVisibleTo(parentWidget()) != game.picButtons.blnVisible)
         setVisible(game.picButtons.blnVisible);
-}
-
-void SetBackColor(QWidget& pane, Color lngColor) {
-    QPalette palette = pane.palette();
-    palette.setColor(QPalette::Window, ToQColor(lngColor));
-    pane.setPalette(palette);
-    pane.setAutoFillBackground(true);
 }
 
 } // namespace cellora

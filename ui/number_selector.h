@@ -58,7 +58,4 @@ private:
     std::optional<Color> lngBackColor_;
 };
 
-/// Gives a pane a plain background.
-void SetBackColor(QWidget& pane, Color lngColor);
-
 } // namespace cellora

@@ -26,6 +26,15 @@ constexpr TimerDesign aTimers[] = {{Timer::tmr, 1000},
                                    {Timer::tmrCellWait, 1000},
                                    {Timer::tmrCell, 40},
                                    {Timer::tmrRecovery, 1000}};
+static_assert(
+    [] {
+        for (std::size_t i = 0; i < std::size(aTimers); ++i) {
+            if (static_cast<std::size_t>(aTimers[i].timer) != i)
+                return false;
+        }
+        return true;
+    }(),
+    "a timer is found by its place");
 
 constexpr const char* strFilter = "Sudoku Files (*.clp);;All Files (*)";
 

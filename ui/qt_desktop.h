@@ -31,6 +31,7 @@ public:
     /// Where boxes and windows belong and what brings the main window up to date before one opens.
     /// Called by the main window when it is made; the window outlives its use.
     void Attach(Game& game, QWidget* window, std::function<void()> fnMirror);
+    /// The main window is going: nothing is mirrored any more, and the timers stop.
     void Detach();
 
     Answer ShowMessageBox(const MessageBox& box) override;

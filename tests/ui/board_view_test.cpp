@@ -10,6 +10,7 @@
 #include "tests/support/running_program.h"
 #include "tests/support/scripted_desktop.h"
 #include "ui/board_scene.h"
+#include "ui/keys.h"
 
 namespace cellora {
 
