@@ -15,6 +15,10 @@ if(CELLORA_SANITIZE)
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+if(CELLORA_BUILD_FUZZ)
+    # Tells the fuzzer which code an input reaches.
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 
 # cellora_add_floor(NAME FLOORS_BELOW...): the library cellora_NAME from the sources of this folder.
 # Headers are included by their floor ("core/cell.h"), from a folder that holds links to this floor

@@ -15,6 +15,8 @@ struct HallOfFameEntry {
     std::int32_t lngHours = 0;
     std::int32_t lngMinutes = 0;
     std::int32_t lngSeconds = 0;
+
+    bool operator==(const HallOfFameEntry&) const = default;
 };
 
 using LevelEntries = Numbered<HallOfFameEntry, 10>;

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <limits>
 #include <optional>
 #include <string_view>
 
@@ -15,7 +14,6 @@ namespace cellora {
 namespace {
 
 constexpr std::size_t lngMaxCharacters = 254;
-constexpr std::size_t lngAnySize = std::numeric_limits<std::size_t>::max();
 constexpr std::string_view strByteOrderMark = "\xEF\xBB\xBF";
 
 /// Where a key stands in the text, or where it would have to be inserted.
@@ -168,7 +166,7 @@ std::string SetValue(std::string_view strText, const std::string& strSection,
 
 std::string ReadINI(const std::string& strSection, const std::string& strKey,
                     const std::string& strPath) {
-    const std::optional<std::string> strFile = ReadWholeFile(strPath, lngAnySize);
+    const std::optional<std::string> strFile = ReadWholeFile(strPath, lngMaxINIBytes);
     if (!strFile)
         return {};
     std::string_view strText = *strFile;
@@ -184,12 +182,12 @@ void WriteINI(const std::string& strSection, const std::string& strKey, const st
     if (!IsWritableName(strSection, "\r\n]") || !IsWritableName(strKey, "\r\n=[;") ||
         strValue.find_first_of("\r\n") != std::string::npos)
         return;
-    const std::optional<std::string> strFile = ReadWholeFile(strPath, lngAnySize);
+    const std::optional<std::string> strFile = ReadWholeFile(strPath, lngMaxINIBytes);
     // A file that is there but cannot be read must not be replaced by one that holds a single key.
     if (!strFile && PathExists(strPath))
         return;
     const std::string strText = SetValue(strFile.value_or(""), strSection, strKey, strValue);
-    if (strText != strFile)
+    if (strText != strFile && strText.size() <= lngMaxINIBytes)
         ReplaceFile(strPath, strText);
 }
 

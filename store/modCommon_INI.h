@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 /// Single values of a text file of sections, keys and values:
@@ -10,12 +11,15 @@
 ///
 /// Section and key names match without regard to ASCII case; the first section of a name and the
 /// first key of a name in it count. Blanks around names and values do not belong to them. Paths and
-/// texts are UTF-8, with or without a byte order mark; lines end with CR LF, LF or CR. There is no
-/// limit to the size of the file and no copy of it in memory between calls.
+/// texts are UTF-8, with or without a byte order mark; lines end with CR LF, LF or CR. No copy of
+/// the file stays in memory between calls.
 namespace cellora {
 
+/// A larger file cannot be read, and none grows beyond it.
+inline constexpr std::size_t lngMaxINIBytes = std::size_t{16} << 20U;
+
 /// The value without the pair of quotes (" or ') that may enclose it, cut to its first 254
-/// characters. Empty text when the file, the section or the key does not exist.
+/// characters. Empty text when the section or the key does not exist or the file cannot be read.
 std::string ReadINI(const std::string& strSection, const std::string& strKey,
                     const std::string& strPath);
 
@@ -25,8 +29,9 @@ std::string ReadINI(const std::string& strSection, const std::string& strKey,
 /// of the file's first line (CR LF when there is none). Every other byte of the file stays. A value
 /// that reading would change (a blank at an end, a pair of quotes) is stored in double quotes.
 /// Nothing happens, and nothing is reported, when the file cannot be written, when it exists but
-/// cannot be read, and when a text could not be read back: one with a line break, an empty name, a
-/// section with "]", a key with "=", "[" or ";", a name with blanks around it.
+/// cannot be read, when it would become too large, and when a text could not be read back: one with
+/// a line break, an empty name, a section with "]", a key with "=", "[" or ";", a name with blanks
+/// around it.
 void WriteINI(const std::string& strSection, const std::string& strKey, const std::string& strValue,
               const std::string& strPath);
 

@@ -150,6 +150,18 @@ TEST_F(ModCommonINI, ChangesOneValueOfAVeryLargeFile) {
     EXPECT_EQ(ReadINI("view", "toolbar", folder_.Path("cl.ini")), "0");
 }
 
+TEST_F(ModCommonINI, LeavesAFileOfMoreThan16MiBAlone) {
+    const auto Fill = [](std::string strText, std::size_t lngSize) {
+        return strText.append(lngSize - strText.size(), ';');
+    };
+    const std::string strLargest = Fill("[view]\ntoolbar=old\n", lngMaxINIBytes);
+    EXPECT_EQ(Read(strLargest), "old");
+    EXPECT_TRUE(Write(strLargest, "new") == Fill("[view]\ntoolbar=new\n", lngMaxINIBytes));
+    EXPECT_TRUE(Write(strLargest, "newer") == strLargest) << "it could not be read again";
+    EXPECT_EQ(Read(strLargest + ";"), "");
+    EXPECT_TRUE(Write(strLargest + ";", "new") == strLargest + ";");
+}
+
 TEST_F(ModCommonINI, AWriteThatCannotSucceedChangesNothing) {
     const std::string strPlain = folder_.WriteBytes("plain", "x");
     folder_.MakeFolder("cl.ini.d");
