@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(cellora::ToQString(cellora::strProductName));
     QApplication::setQuitOnLastWindowClosed(false);
-    cellora::ApplyLook(application);
+    cellora::ApplyLook();
     const std::string strExecutableFolder =
         cellora::ToStdString(QApplication::applicationDirPath());
     cellora::Program program(

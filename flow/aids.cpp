@@ -1,5 +1,6 @@
 #include "flow/aids.h"
 
+#include <algorithm>
 #include <limits>
 #include <string>
 
@@ -37,10 +38,8 @@ int FindEmptyCell(Game& game) {
 }
 
 bool HasEmptyCell(const Game& game) {
-    for (const Cell& cell : game.cells)
-        if (!cell.blnGiven && !HasEntry(cell))
-            return true;
-    return false;
+    return std::ranges::any_of(game.cells,
+                               [](const Cell& cell) { return !cell.blnGiven && !HasEntry(cell); });
 }
 
 void RevealCell(Game& game, int intCell) {

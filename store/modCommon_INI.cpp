@@ -54,9 +54,7 @@ std::string_view GetLineEnd(std::string_view strText, std::size_t lngAt) {
 }
 
 std::size_t FindLineEnd(std::string_view strText, std::size_t lngBegin) {
-    const auto end = std::find_if(strText.begin() + static_cast<std::ptrdiff_t>(lngBegin),
-                                  strText.end(), IsLineEnd);
-    return static_cast<std::size_t>(end - strText.begin());
+    return std::min(strText.find_first_of("\r\n", lngBegin), strText.size());
 }
 
 std::optional<std::string_view> GetSectionName(std::string_view strLine) {

@@ -35,8 +35,8 @@ void ShapeItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidge
     painter->drawRect(rect_.adjusted(dblInset, dblInset, -dblInset, -dblInset));
 }
 
-LabelItem::LabelItem(QRectF rect, QFont font, Qt::Alignment alignment, QGraphicsScene& scene)
-    : rect_(rect), font_(std::move(font)), alignment_(alignment) {
+LabelItem::LabelItem(QRectF rect, const QFont& font, Qt::Alignment alignment, QGraphicsScene& scene)
+    : rect_(rect), font_(font), alignment_(alignment) {
     scene.addItem(this);
 }
 

@@ -35,7 +35,7 @@ private:
 /// One line of text from the top of a rectangle, on a transparent background.
 class LabelItem final : public QGraphicsItem {
 public:
-    LabelItem(QRectF rect, QFont font, Qt::Alignment alignment, QGraphicsScene& scene);
+    LabelItem(QRectF rect, const QFont& font, Qt::Alignment alignment, QGraphicsScene& scene);
 
     void SetText(const QString& strText);
     void SetColor(const QColor& color);

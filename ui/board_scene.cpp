@@ -28,7 +28,9 @@ bool IsFilledRegion(int k) {
 }
 
 QRectF GetRegionRect(int k) {
-    return {dblMargin + dblRegionPitch * (k % 3), dblMargin + dblRegionPitch * (k / 3),
+    const int intRow = k / 3;
+    const int intColumn = k % 3;
+    return {dblMargin + dblRegionPitch * intColumn, dblMargin + dblRegionPitch * intRow,
             dblRegionSize, dblRegionSize};
 }
 

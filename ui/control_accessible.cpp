@@ -35,7 +35,9 @@ private:
 QAccessibleInterface* MakeControl(const QString&, QObject* object) {
     if (auto* const label = qobject_cast<LinkLabel*>(object))
         return new AccessibleLink(*label);
-    if (qobject_cast<StatisticsPane*>(object) || qobject_cast<NumberSelector*>(object))
+    const bool blnPane = qobject_cast<StatisticsPane*>(object) != nullptr ||
+                         qobject_cast<NumberSelector*>(object) != nullptr;
+    if (blnPane)
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
     return nullptr;
 }

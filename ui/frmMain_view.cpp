@@ -158,7 +158,7 @@ void frmMain::FitWindowToGrid() {
     picBorder_->setUpdatesEnabled(false);
     TickWindowMode(true);
     tmrFitting_.start(intFittingMilliseconds);
-    if (windowState() & (Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen))
+    if ((windowState() & (Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen)) != 0)
         showNormal();
     const LayoutInput input = GetLayoutInput();
     sizeFitted_ =

@@ -21,7 +21,7 @@ public:
 
 private:
     void MakeTabs();
-    QFrame* MakePage(QTabWidget* tab, const QString& strCaption);
+    static QFrame* MakePage(QTabWidget* tab, const QString& strCaption);
     void MakeSlot(QFrame* frame, int intSlotRow, double dblTop);
     void MakeButtons();
     void Form_Load();

@@ -50,7 +50,7 @@ std::int16_t GetVirtualKey(const QKeyEvent& event) {
             return code.intCode;
     }
     if (intKey >= Qt::Key_1 && intKey <= Qt::Key_9)
-        return GetDigitCode(intKey - Qt::Key_0, event.modifiers() & Qt::KeypadModifier);
+        return GetDigitCode(intKey - Qt::Key_0, event.modifiers().testFlag(Qt::KeypadModifier));
     if (const int intDigit = GetRowDigit(event); intDigit != 0)
         return GetDigitCode(intDigit, false);
     return 0;

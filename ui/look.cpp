@@ -95,10 +95,10 @@ void SetBackColor(QWidget& pane, Color lngColor) {
     pane.setAutoFillBackground(true);
 }
 
-void ApplyLook(QApplication& application) {
+void ApplyLook() {
     QApplication::setStyle(new ProgramStyle);
     QApplication::setPalette(MakePalette());
-    application.setFont(MakeFont(8));
+    QApplication::setFont(MakeFont(8));
 }
 
 } // namespace cellora

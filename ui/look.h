@@ -5,7 +5,6 @@
 
 #include "core/modCommon_Constants.h"
 
-class QApplication;
 class QWidget;
 
 /// Fonts, colours and style of the whole program: one light palette, whatever the desktop's theme.
@@ -27,7 +26,7 @@ Color ToColor(const QColor& color);
 /// Gives a pane a plain background.
 void SetBackColor(QWidget& pane, Color lngColor);
 
-/// Sets style, palette and default font (8 point).
-void ApplyLook(QApplication& application);
+/// Sets style, palette and default font (8 point) of the application, which exists already.
+void ApplyLook();
 
 } // namespace cellora

@@ -1,5 +1,7 @@
 #include "ui/system_info.h"
 
+#include <algorithm>
+
 #include <QProcess>
 #include <QStringList>
 
@@ -43,12 +45,10 @@ bool StartSystemInfo() {
 constexpr const char* aTools[] = {"kinfocenter", "gnome-control-center", "hardinfo"};
 
 bool StartSystemInfo() {
-    for (const char* const strTool : aTools) {
+    return std::ranges::any_of(aTools, [](const char* strTool) {
         const QString strPath = QStandardPaths::findExecutable(QLatin1String(strTool));
-        if (!strPath.isEmpty() && QProcess::startDetached(strPath, {}))
-            return true;
-    }
-    return false;
+        return !strPath.isEmpty() && QProcess::startDetached(strPath, {});
+    });
 }
 
 #endif

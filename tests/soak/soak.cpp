@@ -119,7 +119,7 @@ int main(int argc, char** argv) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                        QString::fromStdString(settings.Path()));
     QApplication application(argc, argv);
-    cellora::ApplyLook(application);
+    cellora::ApplyLook();
     // The toolkit fills its cache of pictures in the course of some hundred games.
     QPixmapCache::setCacheLimit(1024);
     qInstallMessageHandler(cellora::HearToolkit);

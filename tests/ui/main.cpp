@@ -7,6 +7,6 @@
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
-    cellora::ApplyLook(application);
+    cellora::ApplyLook();
     return RUN_ALL_TESTS();
 }
