@@ -48,10 +48,26 @@ constexpr PaletteEntry aPalette[] = {
     {QPalette::Shadow, 0xFF5B6874, 0xFF5B6874},
 };
 
-/// Fusion, with plain buttons in message boxes as in every other window.
+QPalette MakePalette() {
+    QPalette palette;
+    for (const PaletteEntry& entry : aPalette) {
+        palette.setColor(entry.role, QColor::fromRgb(entry.lngNormal));
+        palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgb(entry.lngDisabled));
+    }
+    // Colours that count as a choice of the player's would give every control a palette of its own,
+    // and the style remembers the pictures of each palette for good.
+    palette.setResolveMask(0);
+    return palette;
+}
+
+/// Fusion in the program's colours, with plain buttons in message boxes as in every other window.
 class ProgramStyle final : public QProxyStyle {
 public:
     ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    using QProxyStyle::polish;
+    /// Called with the colours of the desktop's theme.
+    void polish(QPalette& palette) override { palette = MakePalette(); }
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {
@@ -60,15 +76,6 @@ public:
         return QProxyStyle::styleHint(hint, option, widget, data);
     }
 };
-
-QPalette MakePalette() {
-    QPalette palette;
-    for (const PaletteEntry& entry : aPalette) {
-        palette.setColor(entry.role, QColor::fromRgb(entry.lngNormal));
-        palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgb(entry.lngDisabled));
-    }
-    return palette;
-}
 
 } // namespace
 
@@ -97,7 +104,6 @@ void SetBackColor(QWidget& pane, Color lngColor) {
 
 void ApplyLook() {
     QApplication::setStyle(new ProgramStyle);
-    QApplication::setPalette(MakePalette());
     QApplication::setFont(MakeFont(8));
 }
 

@@ -117,6 +117,20 @@ TEST(PauseDialog, ClosesByItsButtonEnterAndEsc) {
     EXPECT_EQ(cmdContinue.text(), QLatin1String("Continue"));
 }
 
+/// The style remembers the pictures of each palette, so a palette of its own for every showing
+/// would fill the memory.
+TEST(Look, AWindowShownAgainHasThePaletteOfTheProgram) {
+    ScriptedDesktop desktop;
+    Game game{desktop};
+    for (int i = 0; i < 2; ++i) {
+        frmNew dialog(game, nullptr);
+        dialog.show();
+        EXPECT_EQ(GetControl<QPushButton>(dialog, "cmdOK").palette().cacheKey(),
+                  QApplication::palette().cacheKey());
+    }
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), QColor(0x2F, 0x6D, 0xB5));
+}
+
 } // namespace
 
 } // namespace cellora
