@@ -1,13 +1,13 @@
 #include "store/modCommon_INI.h"
 
-#include "store/ascii.h"
-#include "store/modCommon_File.h"
-#include "store/replace_file.h"
-
 #include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string_view>
+
+#include "store/ascii.h"
+#include "store/modCommon_File.h"
+#include "store/replace_file.h"
 
 namespace cellora {
 

@@ -1,11 +1,11 @@
 #include "store/program_folder.h"
 
-#include "store/modCommon_File.h"
-#include "store/replace_file.h"
-
 #include <QDir>
 #include <QString>
 #include <QTemporaryFile>
+
+#include "store/modCommon_File.h"
+#include "store/replace_file.h"
 
 namespace cellora {
 

@@ -1,14 +1,14 @@
 #include "store/replace_file.h"
 
+#include <chrono>
+#include <thread>
+#include <utility>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSaveFile>
 #include <QString>
-
-#include <chrono>
-#include <thread>
-#include <utility>
 
 namespace cellora {
 
