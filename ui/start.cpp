@@ -3,6 +3,7 @@
 #include <array>
 
 #include <QFile>
+#include <QSettings>
 
 #include "flow/completion.h"
 #include "flow/start_up.h"
@@ -10,6 +11,7 @@
 #include "store/settings.h"
 #include "ui/board_accessible.h"
 #include "ui/control_accessible.h"
+#include "ui/text.h"
 
 namespace cellora {
 
@@ -50,6 +52,9 @@ void Program::LoadMain() {
     if (main_ == nullptr) {
         game_.strProgramFolder = fnFindFolder_();
         PlaceFiles(game_.strProgramFolder);
+        // What the toolkit's own dialogs remember belongs there as well.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                           ToQString(game_.strProgramFolder));
         recovery_.emplace(game_.strProgramFolder);
         InstallBoardAccessibility();
         InstallControlAccessibility();

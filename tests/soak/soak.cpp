@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QPixmapCache>
-#include <QSettings>
 
 #include <gtest/gtest.h>
 #include <malloc.h>
@@ -117,10 +116,6 @@ int main(int argc, char** argv) {
         std::cerr << "usage: test_soak [GAMES [SEED]]\n";
         return 2;
     }
-    // File dialogs remember their places in the player's settings.
-    const cellora::TemporaryFolder settings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                       QString::fromStdString(settings.Path()));
     QApplication application(argc, argv);
     cellora::ApplyLook();
     // The toolkit fills its cache of pictures in the course of some hundred games.

@@ -148,6 +148,14 @@ TEST(Start, TheInstructionsOpenOnlyWhenTheSettingIsOne) {
     }
 }
 
+TEST(Start, WhatFileDialogsRememberStaysInTheProgramsFolder) {
+    RunningProgram run;
+    run.StartGame();
+    run.modal.Then([](QWidget& dialog) { dialog.close(); });
+    run.Choose("mnuSaveAs");
+    EXPECT_NE(run.folder.ReadBytes("QtProject.conf").find("[FileDialog]"), std::string::npos);
+}
+
 TEST(Start, AFolderWithoutFilesGetsTheShippedOnes) {
     RunningProgram run;
     std::filesystem::remove(run.folder.Path("cl.ini"));
