@@ -91,8 +91,6 @@ public:
         return blnValue || strLine == strFalse;
     }
 
-    bool IsAtEnd() const { return rest_.find_first_not_of(strLineBreak) == std::string_view::npos; }
-
 private:
     /// Empty at the end of the file, which is no value either.
     std::string_view NextLine() { return TakeLine(rest_); }
@@ -149,8 +147,6 @@ std::optional<SavedGame> ParseSavedGame(std::string_view bytes) {
         if (!ReadCell(reader, cell))
             return std::nullopt;
     }
-    if (!reader.IsAtEnd())
-        return std::nullopt;
     return savedGame;
 }
 

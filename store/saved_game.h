@@ -42,10 +42,10 @@ struct SavedGame {
 /// The bytes of the file. Expects texts without a line feed; every such game reads back the same.
 std::string FormatSavedGame(const SavedGame& savedGame);
 
-/// Nothing unless the bytes are exactly the 413 values in their order and form: numbers of 32 bits
+/// Nothing unless the bytes begin with the 413 values in their order and form: numbers of 32 bits
 /// (of 16 bits for the cell numbers, quoted or not, whose values are ignored), texts in double
 /// quotes, #TRUE# or #FALSE#. A text reaches from the first to the last quote of its line. Lines
-/// end with CR LF or LF, the last one may lack its end, and empty lines may follow it.
+/// end with CR LF or LF, the last one may lack its end, and what follows it is not looked at.
 std::optional<SavedGame> ParseSavedGame(std::string_view bytes);
 
 /// The record of the game on the board.

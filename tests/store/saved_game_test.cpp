@@ -75,11 +75,11 @@ TEST(SavedGame, EveryTextWithoutALineFeedReadsBackTheSame) {
     }
 }
 
-TEST(SavedGame, ReadsOtherLineEndsAndOtherCellNumbers) {
+TEST(SavedGame, ReadsOtherLineEndsAndCellNumbersAndNothingBehindTheLastLine) {
     const std::string strBytes = FormatSavedGame(MakeSavedGame());
     std::vector<std::string> lines = SplitLines(strBytes);
     for (const std::string& strOther :
-         {JoinLines(lines, "\n"), strBytes + "\r\n", strBytes + "\n\n",
+         {JoinLines(lines, "\n"), strBytes + "\r\n", strBytes + "\n\nnotes of mine",
           strBytes.substr(0, strBytes.size() - 1), strBytes.substr(0, strBytes.size() - 2)})
         EXPECT_EQ(ParseSavedGame(strOther), MakeSavedGame());
 
@@ -104,7 +104,7 @@ TEST(SavedGame, RefusesLinesThatAreNotInForm) {
              Damage{9, "\"32768\""}, Damage{9, "\"\""},        Damage{9, "one"},
              Damage{10, "TRUE"},     Damage{10, "#True#"},     Damage{10, "\"#TRUE#\""},
              Damage{15, "0"},        Damage{15, "#FALSE# "},   Damage{16, "\"6\" "},
-             Damage{413, "\" \"x"},  Damage{413, "\"\"\r\nx"},
+             Damage{413, "\" \"x"},
          }) {
         std::vector<std::string> lines = SplitLines(FormatSavedGame(MakeSavedGame()));
         lines[damage.lngLine - 1] = damage.strLine;
