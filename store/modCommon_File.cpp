@@ -37,9 +37,13 @@ bool PathExists(std::string strPath) {
 }
 
 std::string GetFolderFromPath(std::string strPath) {
+#ifdef _WIN32
+    const std::size_t intLast = strPath.find_last_of("/\\");
+#else
     std::size_t intLast = strPath.rfind('/');
     if (intLast == std::string::npos)
         intLast = strPath.rfind('\\');
+#endif
     return intLast == std::string::npos ? std::string() : strPath.substr(0, intLast + 1);
 }
 
