@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QTime>
 #include <QTimer>
@@ -11,6 +13,7 @@
 #include "core/modCellora.h"
 #include "ui/form.h"
 #include "ui/modal_windows.h"
+#include "ui/placing.h"
 #include "ui/text.h"
 
 namespace cellora {
@@ -36,7 +39,25 @@ static_assert(
     }(),
     "a timer is found by its place");
 
-constexpr const char* strFilter = "Sudoku Files (*.clp);;All Files (*)";
+/// The last brackets hold the pattern and are not shown.
+constexpr const char* strFilter = "Sudoku Files (*.clp) (*.clp);;All Files (*.*) (*)";
+
+/// The file may be missing, but the folder of a typed name must exist.
+class GameFileDialog final : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    void accept() override {
+        const QStringList files = selectedFiles();
+        if (!files.isEmpty() && !QFileInfo(files.constFirst()).absoluteDir().exists())
+            QMessageBox::warning(
+                this, windowTitle(),
+                QStringLiteral("The folder of \"%1\" does not exist.\n\nPlease choose another one.")
+                    .arg(files.constFirst()));
+        else
+            QFileDialog::accept();
+    }
+};
 
 QMessageBox::Icon GetIcon(MessageIcon icon) {
     switch (icon) {
@@ -110,7 +131,20 @@ Answer QtDesktop::ShowMessageBox(const MessageBox& box) {
     QMessageBox messageBox(GetIcon(box.icon), ToQString(box.strTitle), ToMessageText(box.strText),
                            GetButtons(box.buttons), GetOwner());
     messageBox.setTextFormat(Qt::PlainText);
-    return GetAnswer(messageBox.exec());
+    // The toolkit would take the leftmost button, which differs from desktop to desktop.
+    if (messageBox.button(QMessageBox::Yes) != nullptr)
+        messageBox.setDefaultButton(QMessageBox::Yes);
+    return GetAnswer(Execute(messageBox));
+}
+
+int QtDesktop::Execute(QDialog& dialog) {
+    // The hourglass belongs to the main window, not to what is shown over it.
+    if (blnHourglass_)
+        QApplication::restoreOverrideCursor();
+    const int intResult = dialog.exec();
+    if (blnHourglass_)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    return intResult;
 }
 
 void QtDesktop::Beep() {
@@ -175,12 +209,15 @@ void QtDesktop::ShowPopup(PopupMenu menu) {
 std::optional<std::string> QtDesktop::PickFile(const FileRequest& request) {
     fnMirror_();
     const bool blnSave = request.purpose == FilePurpose::Save;
-    QFileDialog dialog(GetOwner(), blnSave ? QStringLiteral("Save As") : QStringLiteral("Open"),
-                       ToQString(request.strFolder), QLatin1String(strFilter));
+    GameFileDialog dialog(GetOwner(), blnSave ? QStringLiteral("Save As") : QStringLiteral("Open"),
+                          ToQString(request.strFolder), QLatin1String(strFilter));
     dialog.setAcceptMode(blnSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.adjustSize();
+    CenterOnScreen(dialog);
+    if (Execute(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return ToStdString(dialog.selectedFiles().constFirst());
 }

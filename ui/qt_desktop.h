@@ -11,6 +11,7 @@
 
 #include "core/desktop.h"
 
+class QDialog;
 class QTimer;
 class QWidget;
 
@@ -62,6 +63,7 @@ private:
     QWidget* GetOwner() const;
     QTimer& GetTimer(Timer timer) const;
     void Run(ModalWindow window, Form& dialog);
+    int Execute(QDialog& dialog);
 
     Game* game_ = nullptr;
     QPointer<QWidget> window_;

@@ -153,6 +153,7 @@ TEST(Start, WhatFileDialogsRememberStaysInTheProgramsFolder) {
     run.StartGame();
     run.modal.Then([](QWidget& dialog) { dialog.close(); });
     run.Choose("mnuSaveAs");
+    EXPECT_TRUE(run.modal.IsDone());
     EXPECT_NE(run.folder.ReadBytes("QtProject.conf").find("[FileDialog]"), std::string::npos);
 }
 
