@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSessionManager>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -47,6 +48,9 @@ frmMain::frmMain(Game& game, QtDesktop& desktop, Recovery& recovery)
     ConnectTimers();
     desktop_.Attach(game_, this, [this] { Mirror(); });
     announcer_ = std::make_unique<BoardAnnouncer>(*picGrid_);
+    // The desktop waits for the answer.
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &frmMain::EndSession,
+            Qt::DirectConnection);
     tmrFitting_.setSingleShot(true);
     connect(&tmrFitting_, &QTimer::timeout, this, &frmMain::tmrFitting_Timer);
     Mirror();
@@ -182,16 +186,38 @@ void frmMain::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    const bool blnClose = MayClose(game_);
-    Mirror();
-    if (!blnClose) {
+    if (!Leave()) {
         event->ignore();
         return;
     }
-    UnloadMainWindow(game_);
-    recovery_.Remove();
     event->accept();
     QCoreApplication::exit();
+}
+
+bool frmMain::Leave() {
+    const bool blnLeave = MayClose(game_);
+    Mirror();
+    if (!blnLeave)
+        return false;
+    UnloadMainWindow(game_);
+    recovery_.Remove();
+    return true;
+}
+
+void frmMain::EndSession(QSessionManager& manager) {
+    if (!isEnabled())
+        return;
+    if (!manager.allowsInteraction()) {
+        // The recovery file keeps what cannot be asked about.
+        UnloadMainWindow(game_);
+        return;
+    }
+    const bool blnLeave = Leave();
+    manager.release();
+    if (!blnLeave)
+        manager.cancel();
+    else
+        game_.blnGameChanged = false; // The closing that follows must not ask again.
 }
 
 void frmMain::changeEvent(QEvent* event) {

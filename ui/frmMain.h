@@ -16,6 +16,7 @@
 
 class QAction;
 class QPushButton;
+class QSessionManager;
 class QToolBar;
 
 namespace cellora {
@@ -102,6 +103,11 @@ private:
     // Mirroring.
     void MirrorMenus();
     void MirrorToolbar();
+
+    /// The end of the program, if the player agrees.
+    bool Leave();
+    /// The same when the desktop's session ends, which the player may thereby stop.
+    void EndSession(QSessionManager& manager);
 
     // Layout: the pass over the panes and what changes it.
     void Form_Resize();
