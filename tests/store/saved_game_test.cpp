@@ -96,14 +96,14 @@ struct Damage {
 
 TEST(SavedGame, RefusesLinesThatAreNotInForm) {
     for (const Damage& damage : {
-             Damage{1, ""},          Damage{1, "2147483648"},  Damage{1, "-2147483649"},
-             Damage{2, "\"0\""},     Damage{2, "1.5"},         Damage{2, " 1"},
-             Damage{3, "1 "},        Damage{3, "+1"},          Damage{3, "0x1"},
-             Damage{4, ""},          Damage{4, "Level 12"},    Damage{5, "38"},
-             Damage{6, "\"2"},       Damage{7, "41\""},        Damage{8, "\""},
-             Damage{9, "\"32768\""}, Damage{9, "\"\""},        Damage{9, "one"},
-             Damage{10, "TRUE"},     Damage{10, "#True#"},     Damage{10, "\"#TRUE#\""},
-             Damage{15, "0"},        Damage{15, "#FALSE# "},   Damage{16, "\"6\" "},
+             Damage{1, ""},          Damage{1, "2147483648"}, Damage{1, "-2147483649"},
+             Damage{2, "\"0\""},     Damage{2, "1.5"},        Damage{2, " 1"},
+             Damage{3, "1 "},        Damage{3, "+1"},         Damage{3, "0x1"},
+             Damage{4, ""},          Damage{4, "Level 12"},   Damage{5, "38"},
+             Damage{6, "\"2"},       Damage{7, "41\""},       Damage{8, "\""},
+             Damage{9, "\"32768\""}, Damage{9, "\"\""},       Damage{9, "one"},
+             Damage{10, "TRUE"},     Damage{10, "#True#"},    Damage{10, "\"#TRUE#\""},
+             Damage{15, "0"},        Damage{15, "#FALSE# "},  Damage{16, "\"6\" "},
              Damage{413, "\" \"x"},
          }) {
         std::vector<std::string> lines = SplitLines(FormatSavedGame(MakeSavedGame()));
