@@ -212,12 +212,10 @@ void frmMain::EndSession(QSessionManager& manager) {
         UnloadMainWindow(game_);
         return;
     }
-    const bool blnLeave = Leave();
-    manager.release();
-    if (!blnLeave)
-        manager.cancel();
-    else
+    if (Leave())
         game_.blnGameChanged = false; // The closing that follows must not ask again.
+    else
+        manager.cancel();
 }
 
 void frmMain::changeEvent(QEvent* event) {
