@@ -177,8 +177,10 @@ bool BoardCell::isSelected() const {
 }
 
 void Perform(BoardView& view, int intCell, const QString& strAction) {
-    // Assistive technology reaches the board behind a modal window, where the mouse does not.
-    if (!view.isVisible() || !view.isEnabled() || QApplication::activeModalWidget() != nullptr)
+    // Assistive technology reaches the board behind a modal window or a menu, where the mouse does
+    // not.
+    if (!view.isVisible() || !view.isEnabled() || QApplication::activeModalWidget() != nullptr ||
+        QApplication::activePopupWidget() != nullptr)
         return;
     const QPoint center = view.mapToGlobal(view.GetCellRect(intCell).center());
     if (strAction == QAccessibleActionInterface::setFocusAction())

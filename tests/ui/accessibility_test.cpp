@@ -208,6 +208,8 @@ TEST(Accessibility, AGameIsPlayedByTheActionsOfItsCells) {
     Do(intCell, QAccessibleActionInterface::showMenuAction());
     QMenu& menu = run.WaitForPopup("mnuRightClick");
     EXPECT_EQ(GetName(QAccessible::queryAccessibleInterface(&menu)), QLatin1String("Notes"));
+    Do(80, QAccessibleActionInterface::setFocusAction());
+    EXPECT_EQ(run.game().intCursorCell, intCell);
     menu.close();
 
     // Behind a modal window and on a locked board they do nothing.
