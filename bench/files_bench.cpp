@@ -19,10 +19,9 @@ struct FilesBench {
     FilesBench() {
         game.fnDoCellCount = DoCellCount;
         game.strProgramFolder = folder.Path();
-        game.strGameFile = folder.Path("game.clp");
-        desktop.strPickedFile = game.strGameFile;
         StartNewGame(game, GetLevelName(15));
         game.strGameFile = folder.Path("game.clp");
+        desktop.strPickedFile = game.strGameFile;
         for (int i = 1; i <= intCellCount; i += 2)
             game.cells[i].strEntry = game.cells[i].blnGiven ? "" : game.cells[i].strSolution;
     }

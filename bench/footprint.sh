@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Measures what Cellora costs while it is merely there: the memory it takes with a game on the board,
+# Measures what Cellora costs while it is merely there: the memory it takes with a game on the board
 # and the processor time it burns while nobody touches it and the clock runs. Beside it, an empty Qt
 # window of the same size with the same libraries loaded. Memory is the resident set, in
 # which a page shared with another program counts in full; the anonymous part is what is the
@@ -7,7 +7,7 @@
 # Usage: bench/footprint.sh [BUILD_FOLDER [IDLE_SECONDS]]
 set -euo pipefail
 here=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
-build=$(readlink -f "${1:-$here/../build/bench}")
+build=$(readlink -m "${1:-$here/../build/bench}")
 idle_seconds=${2:-60}
 if [[ -z "${CELLORA_FOOTPRINT_DISPLAY:-}" ]]; then
     export CELLORA_FOOTPRINT_DISPLAY=1
@@ -67,10 +67,11 @@ xdotool search --onlyvisible --name '^Cellora$' windowactivate --sync
 xdotool key ctrl+n
 sleep 1
 xdotool key Return
-until [[ -e $work/recovery.clp ]]; do # A second after the game has begun it is kept.
-    kill -0 "$game"
+for ((tries = 0; tries < 100; ++tries)); do # A second after the game has begun it is kept.
+    [[ ! -e $work/recovery.clp ]] || break
     sleep 0.1
 done
+[[ -e $work/recovery.clp ]] || { echo "footprint: no game was started" >&2; exit 1; }
 sleep 1
 read -r game_resident game_anonymous < <(memory "$game")
 row "game on board" "$game_resident" "$game_anonymous" "$(idle_time "$game")"

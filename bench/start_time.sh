@@ -8,7 +8,7 @@
 # of each goes uncounted.
 # Usage: bench/start_time.sh [BUILD_FOLDER [STARTS]]
 set -euo pipefail
-build=$(readlink -f "${1:-$(dirname "${BASH_SOURCE[0]}")/../build/bench}")
+build=$(readlink -m "${1:-$(dirname "${BASH_SOURCE[0]}")/../build/bench}")
 starts=${2:-21}
 if [[ -z "${CELLORA_START_TIME_DISPLAY:-}" ]]; then
     export CELLORA_START_TIME_DISPLAY=1 QT_LOGGING_RULES="*=false"
@@ -21,7 +21,8 @@ trap 'rm -rf "$work"' EXIT
 cp "$build/cellora" "$work"
 printf '[general]\r\nstartup=0\r\n' >"$work/cl.ini" # The Instructions stay closed.
 
-# start_time PROGRAM [CHANGES]: prints the milliseconds of one start. What a killed copy left behind is no part of a usual start.
+# start_time PROGRAM [CHANGES]: prints the milliseconds of one start. What a killed copy left behind
+# is no part of a usual start.
 start_time() {
     rm -f "$work"/recovery*
     "$build/bench/cellora_first_paint" "$@"

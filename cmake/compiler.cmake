@@ -16,8 +16,12 @@ if(CELLORA_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 if(CELLORA_BUILD_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        message(FATAL_ERROR "The fuzzers need clang")
+    endif()
     # Tells the fuzzer which code an input reaches.
     add_compile_options(-fsanitize=fuzzer-no-link)
+    add_link_options(-fsanitize=fuzzer-no-link)
 endif()
 
 # cellora_add_floor(NAME FLOORS_BELOW...): the library cellora_NAME from the sources of this folder.

@@ -21,10 +21,7 @@ endif()
 
 if(WIN32 OR APPLE)
     install(TARGETS cellora RUNTIME DESTINATION . BUNDLE DESTINATION .)
-    set(CPACK_GENERATOR ZIP)
-    set(CPACK_PACKAGE_NAME Cellora)
-    include(CPack)
-    return()
+    return() # windeployqt and macdeployqt make the rest.
 endif()
 
 # What distributions expect of a program: checked libc calls and stack frames, read-only relocations.

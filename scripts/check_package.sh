@@ -3,12 +3,12 @@
 # ordinary user, who must find nothing written outside the user's own data folder.
 # Usage: scripts/check_package.sh [BUILD_FOLDER]
 set -euo pipefail
-folder=$(readlink -f "${1:-$(dirname "${BASH_SOURCE[0]}")/../build/release}")
+folder=$(readlink -m "${1:-$(dirname "${BASH_SOURCE[0]}")/../build/release}")
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
 source scripts/packages.sh
 
-readonly seconds_of_play=4
-readonly player=nobody
+readonly patience=30 # seconds until the files of a first start must be there
+readonly player=64999 # a user of no other program
 
 fail() {
     echo "check_package: $*" >&2
@@ -58,20 +58,25 @@ mkdir -m 755 "$home"
 "${as_root[@]}" install -d -m 700 -o "$player" "$home/tmp" "$home/run" "$home/data"
 "${as_root[@]}" chown "$player" "$home"
 touch "$work/start"
-status=0
-"${as_root[@]}" setpriv --reuid="$player" --regid=nogroup --clear-groups \
+"${as_root[@]}" setpriv --reuid="$player" --regid="$player" --clear-groups \
     env -i PATH=/usr/bin:/bin LANG=C.UTF-8 HOME="$home" XDG_DATA_HOME="$home/data" \
     XDG_RUNTIME_DIR="$home/run" TMPDIR="$home/tmp" QT_QPA_PLATFORM=offscreen \
-    timeout "$seconds_of_play" "$work/root/usr/games/cellora" >"$work/play.log" 2>&1 || status=$?
-((status == 124)) || { cat "$work/play.log"; fail "the program ended by itself (status $status)"; }
-
+    timeout "$patience" "$work/root/usr/games/cellora" >"$work/play.log" 2>&1 &
+playing=$!
 for written in cl.ini hof.clh; do
-    "${as_root[@]}" test -s "$home/data/cellora/$written" || fail "$written was not written"
+    until "${as_root[@]}" test -s "$home/data/cellora/$written"; do
+        kill -0 "$playing" 2>/dev/null ||
+            { cat "$work/play.log"; fail "$written was not written while the program ran"; }
+        sleep 0.2
+    done
 done
+"${as_root[@]}" kill "$playing"
+wait "$playing" || true
 # Where every user may write, and in the places of this user alone.
 strays=$("${as_root[@]}" find "$home" -type f -not -path "$home/data/cellora/*"
     "${as_root[@]}" find "$work/root" -newer "$work/start" -type f
+    # Other programs' folders may go while they are searched.
     "${as_root[@]}" find /tmp /var/tmp /dev/shm -path "$work" -prune -o \
-        -user "$player" -newer "$work/start" -print)
+        -uid "$player" -newer "$work/start" -print 2>/dev/null || true)
 [[ -z $strays ]] || fail "written outside the user's data folder: $strays"
 echo "The package is sound."

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks the layout of every C++ file (clang-format) and the program's code (clang-tidy); prints what
-# they find and exits non-zero.
+# Checks the layout of every C++ file (clang-format) and the program's code (clang-tidy); prints
+# what they find and exits non-zero.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
 source scripts/packages.sh

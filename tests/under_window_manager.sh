@@ -6,6 +6,7 @@ set -euo pipefail
 openbox --sm-disable &
 manager=$!
 trap 'kill "$manager" 2>/dev/null || true' EXIT
+command -v xprop >/dev/null || { echo "xprop is missing (x11-utils)" >&2; exit 1; }
 until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
     kill -0 "$manager"
     sleep 0.1
