@@ -23,7 +23,8 @@ std::optional<std::string> ReadWholeFile(const std::string& strPath, std::size_t
 
 /// A lock on a file that every running copy of the program respects, for reading a file and
 /// replacing it without losing what another copy writes meanwhile. It is the file `strPath` +
-/// ".lock" and is taken over when the copy that made it no longer runs.
+/// ".lock" and is taken over when the copy that made it no longer runs; a second after its making
+/// when that copy was killed before it could put its name in.
 class FileLock final {
 public:
     explicit FileLock(const std::string& strPath);

@@ -4,7 +4,8 @@ class QWidget;
 
 namespace cellora {
 
-/// Moves a window, with its frame, to the middle of its screen.
+/// Moves a window to the middle of its screen, with its frame where that is known already: from the
+/// first showing on.
 void CenterOnScreen(QWidget& window);
 
 } // namespace cellora

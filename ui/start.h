@@ -21,7 +21,8 @@ public:
     Program(std::function<std::string()> fnFindFolder, std::uint64_t lngRandomState);
     ~Program();
 
-    /// Shows the splash and returns; the rest of the start follows by its timers.
+    /// Shows the splash and returns; the rest of the start follows by its timers. On Linux what the
+    /// toolkit's dialogs remember in this process belongs to the program's folder from then on.
     void Main();
 
     Game& game() { return game_; }
