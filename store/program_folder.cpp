@@ -11,7 +11,7 @@ namespace cellora {
 
 namespace {
 
-constexpr int msPlaceTimeout = 1000;
+constexpr int msPlaceTimeout = 2000;
 
 /// Trying is the only sure answer: permissions alone know nothing of read-only disks and quotas.
 bool CanCreateFile(const std::string& strFolder) {

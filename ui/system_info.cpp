@@ -1,7 +1,5 @@
 #include "ui/system_info.h"
 
-#include <algorithm>
-
 #include <QProcess>
 #include <QStringList>
 
@@ -45,10 +43,13 @@ bool StartSystemInfo() {
 constexpr const char* aTools[] = {"kinfocenter", "gnome-control-center", "hardinfo"};
 
 bool StartSystemInfo() {
-    return std::ranges::any_of(aTools, [](const char* strTool) {
+    // NOLINTNEXTLINE(readability-use-anyofallof): starting a program is more than a question
+    for (const char* const strTool : aTools) {
         const QString strPath = QStandardPaths::findExecutable(QLatin1String(strTool));
-        return !strPath.isEmpty() && QProcess::startDetached(strPath, {});
-    });
+        if (!strPath.isEmpty() && QProcess::startDetached(strPath, {}))
+            return true;
+    }
+    return false;
 }
 
 #endif

@@ -38,7 +38,7 @@ private:
 class ChildProcess final {
 public:
     /// The routine calls `fnTell` after each of its steps; the child ends with 0 when it returns
-    /// true, else with 1.
+    /// true, with 1 when false and with 3 when it throws.
     using Routine = std::function<bool(const std::function<void()>& fnTell)>;
 
     explicit ChildProcess(const Routine& fnRun) {
@@ -52,7 +52,11 @@ public:
                 if (write(fd, "", 1) != 1)
                     _exit(2);
             };
-            _exit(fnRun(fnTell) ? 0 : 1);
+            try {
+                _exit(fnRun(fnTell) ? 0 : 1);
+            } catch (...) {
+                _exit(3);
+            }
         }
         close(aPipe[1]);
         fd_ = aPipe[0];

@@ -148,6 +148,7 @@ TEST(Start, TheInstructionsOpenOnlyWhenTheSettingIsOne) {
     }
 }
 
+#ifdef Q_OS_LINUX
 TEST(Start, WhatFileDialogsRememberStaysInTheProgramsFolder) {
     RunningProgram run;
     run.StartGame();
@@ -156,6 +157,7 @@ TEST(Start, WhatFileDialogsRememberStaysInTheProgramsFolder) {
     EXPECT_TRUE(run.modal.IsDone());
     EXPECT_NE(run.folder.ReadBytes("QtProject.conf").find("[FileDialog]"), std::string::npos);
 }
+#endif
 
 TEST(Start, AFolderWithoutFilesGetsTheShippedOnes) {
     RunningProgram run;

@@ -48,6 +48,10 @@ private:
     void CheckPage() {
         CheckNames();
         CheckAccessKeys();
+        if (GetControls().isEmpty()) {
+            Expect(false, QStringLiteral("nothing takes the keyboard"));
+            return;
+        }
         const QList<QWidget*> forward = Walk(Qt::Key_Tab);
         QList<QWidget*> back = Walk(Qt::Key_Backtab);
         std::reverse(back.begin() + 1, back.end());
