@@ -1,11 +1,13 @@
+#include <cstdint>
 #include <random>
 
 #include <QApplication>
 
 #include "store/program_folder.h"
-#include "ui/look.h"
-#include "ui/start.h"
-#include "ui/text.h"
+#include "ui/desktop/look.h"
+#include "ui/desktop/text.h"
+#include "ui/desktop/version_info.h"
+#include "ui/main/start.h"
 
 namespace {
 
@@ -19,11 +21,10 @@ std::uint64_t DrawRandomState() {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    QApplication::setApplicationName(cellora::ToQString(cellora::strProductName));
+    QApplication::setApplicationName(cellora::GetProductName());
     QApplication::setQuitOnLastWindowClosed(false);
     cellora::ApplyLook();
-    const std::string strExecutableFolder =
-        cellora::ToStdString(QApplication::applicationDirPath());
+    const std::string strExecutableFolder = cellora::ToPath(QApplication::applicationDirPath());
     cellora::Program program(
         [strExecutableFolder] {
             return cellora::GetProgramFolder(strExecutableFolder, cellora::GetUserDataFolder());

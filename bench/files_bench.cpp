@@ -1,11 +1,11 @@
 #include <benchmark/benchmark.h>
 
 #include "core/levels.h"
-#include "flow/completion.h"
-#include "flow/game_file.h"
-#include "flow/hall_of_fame.h"
-#include "flow/new_game.h"
-#include "play/check.h"
+#include "core/modCellora.h"
+#include "rules/check.h"
+#include "rules/game_file.h"
+#include "rules/hall_of_fame.h"
+#include "rules/new_game.h"
 #include "tests/support/idle_desktop.h"
 #include "tests/support/temporary_folder.h"
 
@@ -17,7 +17,6 @@ namespace {
 /// A game in play in a folder of its own, with every other free cell filled.
 struct FilesBench {
     FilesBench() {
-        game.fnDoCellCount = DoCellCount;
         game.strProgramFolder = folder.Path();
         StartNewGame(game, GetLevelName(15));
         game.strGameFile = folder.Path("game.clp");

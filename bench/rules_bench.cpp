@@ -1,11 +1,11 @@
 #include <benchmark/benchmark.h>
 
+#include "bench/literal_generator.h"
 #include "core/levels.h"
+#include "core/modCellora.h"
 #include "core/modCreateSudoku.h"
-#include "flow/completion.h"
-#include "play/check.h"
+#include "rules/check.h"
 #include "tests/support/idle_desktop.h"
-#include "tests/support/literal_generator.h"
 
 namespace cellora {
 namespace {
@@ -35,7 +35,6 @@ BENCHMARK(BM_CreateSolutionLiteral);
 void BM_PerformCellCheck(benchmark::State& state) {
     IdleDesktop desktop;
     Game game(desktop);
-    game.fnDoCellCount = DoCellCount;
     CreateSolution(game);
     ShowPartial(game, GetLevelName(20));
     for (int i = 1; i <= intCellCount; i += 5) {

@@ -12,11 +12,14 @@
 #include <QTemporaryDir>
 
 #include "core/levels.h"
-#include "flow/new_game.h"
-#include "ui/board_view.h"
-#include "ui/look.h"
-#include "ui/start.h"
-#include "ui/text.h"
+#include "core/modCellora.h"
+#include "rules/new_game.h"
+#include "ui/board/board_view.h"
+#include "ui/desktop/look.h"
+#include "ui/desktop/text.h"
+#include "ui/dialogs/frmSplash.h"
+#include "ui/main/frmMain.h"
+#include "ui/main/start.h"
 
 namespace cellora {
 namespace {
@@ -71,7 +74,7 @@ public:
 
     void StartGame(int intLevel) {
         StartNewGame(game(), GetLevelName(intLevel));
-        program_.mainWindow()->Mirror();
+        program_.mainWindow()->Update();
     }
 
     void Press(Qt::Key key) {

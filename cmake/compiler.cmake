@@ -24,12 +24,12 @@ if(CELLORA_BUILD_FUZZ)
     add_link_options(-fsanitize=fuzzer-no-link)
 endif()
 
-# cellora_add_floor(NAME FLOORS_BELOW...): the library cellora_NAME from the sources of this folder.
-# Headers are included by their floor ("core/cell.h"), from a folder that holds links to this floor
-# and the floors below only.
+# cellora_add_floor(NAME FLOORS_BELOW...): the library cellora_NAME from the sources of this folder
+# and of the rooms in it. Headers are included by their floor ("core/cell.h"), from folders
+# that are links to this floor and the floors below only.
 function(cellora_add_floor name)
-    file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp"
-                                        "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp"
+                                                "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
     add_library(cellora_${name} STATIC ${sources})
     set(headers "${CMAKE_BINARY_DIR}/floors/${name}")
     file(MAKE_DIRECTORY "${headers}")

@@ -5,7 +5,13 @@ set(packaging "${PROJECT_SOURCE_DIR}/packaging")
 
 if(WIN32)
     configure_file("${packaging}/windows/cellora.rc.in" cellora.rc @ONLY)
+    configure_file("${packaging}/windows/cellora.manifest.in" cellora.manifest @ONLY)
+    set_source_files_properties(cellora.rc TARGET_DIRECTORY cellora PROPERTIES OBJECT_DEPENDS
+        "${CMAKE_CURRENT_BINARY_DIR}/cellora.manifest;${packaging}/windows/cellora.ico")
     target_sources(cellora PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/cellora.rc")
+    if(MSVC)
+        target_link_options(cellora PRIVATE /MANIFEST:NO) # The resources hold one.
+    endif()
 elseif(APPLE)
     set(icns "${packaging}/macos/cellora.icns")
     target_sources(cellora PRIVATE "${icns}")
@@ -21,24 +27,33 @@ endif()
 
 if(WIN32 OR APPLE)
     install(TARGETS cellora RUNTIME DESTINATION . BUNDLE DESTINATION .)
-    return() # windeployqt and macdeployqt make the rest.
+    if(MINGW)
+        include(cmake/packaging_windows.cmake)
+    endif()
+    return() # Elsewhere windeployqt and macdeployqt make the rest.
 endif()
 
+include(cmake/release_notes.cmake)
+
 # What distributions expect of a program: checked libc calls and stack frames, read-only relocations.
-foreach(target IN ITEMS cellora_core cellora_store cellora_play cellora_flow cellora_ui cellora)
+foreach(target IN ITEMS cellora_core cellora_store cellora_rules cellora_ui cellora)
     target_compile_options(${target} PRIVATE
         "$<$<CONFIG:Release,RelWithDebInfo>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
 endforeach()
 target_link_options(cellora PRIVATE "$<$<CONFIG:Release,RelWithDebInfo>:LINKER:-z,relro,-z,now>")
 
 install(TARGETS cellora RUNTIME DESTINATION games)
-install(FILES assets/cl.ini assets/hof.clh DESTINATION "${CMAKE_INSTALL_DATADIR}/cellora")
+install(FILES assets/cl.ini DESTINATION "${CMAKE_INSTALL_DATADIR}/cellora")
 install(FILES "${packaging}/cellora.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
-install(FILES "${packaging}/example.cellora.Cellora.metainfo.xml"
+set(made "${CMAKE_CURRENT_BINARY_DIR}/packaging")
+foreach(file IN ITEMS cellora.6 changelog.Debian copyright example.cellora.Cellora.metainfo.xml)
+    configure_file("${packaging}/${file}.in" "${made}/${file}" @ONLY)
+endforeach()
+install(FILES "${made}/example.cellora.Cellora.metainfo.xml"
         DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 install(FILES "${packaging}/cellora-mime.xml" RENAME cellora.xml
         DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages")
-install(FILES "${packaging}/copyright" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(FILES "${made}/copyright" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 
 set(hicolor "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
 set(game_icon application-x-cellora-game)
@@ -54,15 +69,13 @@ install(FILES "${packaging}/icons/${game_icon}.svg" DESTINATION "${hicolor}/scal
 find_program(CELLORA_GZIP gzip REQUIRED)
 function(cellora_install_compressed file folder)
     cmake_path(GET file FILENAME name)
-    set(compressed "${CMAKE_CURRENT_BINARY_DIR}/packaging/${name}.gz")
-    file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/packaging")
+    set(compressed "${made}/${name}.gz")
     execute_process(COMMAND "${CELLORA_GZIP}" -9nc "${file}" OUTPUT_FILE "${compressed}"
                     COMMAND_ERROR_IS_FATAL ANY)
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")
     install(FILES "${compressed}" DESTINATION "${folder}")
 endfunction()
-cellora_install_compressed("${packaging}/cellora.6" "${CMAKE_INSTALL_MANDIR}/man6")
-cellora_install_compressed("${packaging}/changelog.Debian" "${CMAKE_INSTALL_DOCDIR}")
+cellora_install_compressed("${made}/cellora.6" "${CMAKE_INSTALL_MANDIR}/man6")
+cellora_install_compressed("${made}/changelog.Debian" "${CMAKE_INSTALL_DOCDIR}")
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME cellora)
@@ -83,6 +96,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation2, libqt6svg6")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)

@@ -68,12 +68,15 @@ public:
 
     /// Whole seconds since midnight, 0 to 86399.
     virtual std::int32_t GetTimeOfDay() = 0;
-};
 
-/// Switches the timer off and on, so that a full interval runs from now.
-inline void RestartTimer(Desktop& desktop, Timer timer) {
-    desktop.EnableTimer(timer, false);
-    desktop.EnableTimer(timer, true);
-}
+    /// Switches the timer off and on, so that a full interval runs from now.
+    void RestartTimer(Timer timer);
+
+    /// Beeps and asks a question that Yes and No answer. True for Yes.
+    bool Confirm(std::string strTitle, std::string strText);
+
+    /// Beeps and shows a message.
+    void Announce(std::string strTitle, std::string strText, MessageIcon icon);
+};
 
 } // namespace cellora

@@ -2,8 +2,10 @@
 
 #include <charconv>
 #include <limits>
+#include <system_error>
 #include <utility>
 
+#include "core/modCellora.h"
 #include "core/modCreateSudoku.h"
 
 namespace cellora {
@@ -38,6 +40,14 @@ std::int32_t GetLeadingNumber(std::string_view strText) {
     return lngNumber;
 }
 
+std::int16_t Statistics::GetLevel() const {
+    return GetLevelNumber(lblLevel);
+}
+
+void Statistics::AddVisibleCell() {
+    lblVisibleCells = std::to_string(std::int64_t{GetLeadingNumber(lblVisibleCells)} + 1);
+}
+
 void HideSolution(Game& game) {
     for (Cell& cell : game.cells)
         cell.blnGiven = false;
@@ -52,8 +62,8 @@ void ShowPartial(Game& game, std::string strDifficulty) {
             ++intShown;
         }
     }
-    game.lblLevel = std::move(strDifficulty);
-    game.lblVisibleCells = std::to_string(intClues);
+    game.statistics.lblLevel = std::move(strDifficulty);
+    game.statistics.lblVisibleCells = std::to_string(intClues);
 }
 
 } // namespace cellora

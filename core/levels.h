@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "core/modCellora.h"
-
 /// The 30 levels of difficulty and the clues they reveal.
 namespace cellora {
+
+struct Game;
 
 /// "Level 1" to "Level 30".
 std::string GetLevelName(int intLevel);

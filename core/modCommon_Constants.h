@@ -16,6 +16,9 @@ constexpr Color MakeColor(int intRed, int intGreen, int intBlue) {
 
 inline constexpr Color lngColorWhite = MakeColor(255, 255, 255);
 inline constexpr Color lngColorBlack = MakeColor(0, 0, 0);
+inline constexpr Color lngColorRed = MakeColor(255, 0, 0);
+inline constexpr Color lngColorBlue = MakeColor(0, 0, 255);
+inline constexpr Color lngColorLightYellow = MakeColor(255, 255, 192);
 
 /// The fixed palette's stand-ins for the desktop's system colours. The inactive caption text is
 /// close to the board's white, so that a paused board cannot be studied.
@@ -40,7 +43,5 @@ inline constexpr std::string_view strLineBreak = "\r\n";
 inline constexpr std::string_view strParagraphBreak = "\r\n\r\n";
 
 inline constexpr std::string_view strHiddenCount = "(hidden)";
-inline constexpr std::string_view strViewSolution = "View Solution";
-inline constexpr std::string_view strViewMistakes = "View Mistakes";
 
 } // namespace cellora

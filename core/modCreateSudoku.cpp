@@ -2,6 +2,9 @@
 
 #include <bit>
 
+#include "core/desktop.h"
+#include "core/modCellora.h"
+
 namespace cellora {
 
 namespace {

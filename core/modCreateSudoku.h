@@ -1,12 +1,13 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
-
-#include "core/modCellora.h"
 
 /// Makes complete solutions at random, and the program's random numbers.
 namespace cellora {
+
+struct Game;
 
 /// A whole number from lo to hi, every value equally likely; lo <= hi. Each call mixes the time of
 /// day into the generator's state (SplitMix64, Steele, Lea and Flood 2014) and goes on from there,

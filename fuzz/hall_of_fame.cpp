@@ -1,10 +1,11 @@
-#include "flow/hall_of_fame.h"
+#include "rules/hall_of_fame.h"
 
 #include <algorithm>
 #include <functional>
 #include <utility>
 
 #include "core/levels.h"
+#include "core/modCellora.h"
 #include "fuzz/fuzzing.h"
 #include "store/modCommon_File.h"
 #include "tests/support/idle_desktop.h"
@@ -24,14 +25,9 @@ LevelEntries ReadLevel(const Game& game, int intLevel) {
     return entries;
 }
 
-void InsertEntry(LevelEntries& entries, int intRank, HallOfFameEntry entry) {
-    for (int i = intRank; i <= LevelEntries::size(); ++i)
-        std::swap(entries[i], entry);
-}
-
 /// Without a level nothing is inserted, but the file is read and written.
 void TryRewrite(Game& game, const TemporaryFolder& folder, std::string_view bytes) {
-    game.lblLevel.clear();
+    game.statistics.lblLevel.clear();
     Require(!SaveHallOfFameEntry(game, "nobody"), "any file can be rewritten");
     const std::string strWritten = folder.ReadBytes(strFileName);
     const auto HasSameCount = [&](char character) {
@@ -43,12 +39,6 @@ void TryRewrite(Game& game, const TemporaryFolder& folder, std::string_view byte
         Require(HasSameCount('\n') && HasSameCount('"'), "a file that is not kept was in form");
 }
 
-void TryInsert(Game& game, const TemporaryFolder& folder, const HallOfFameEntry& entry) {
-    const std::ptrdiff_t intFiles = folder.Count();
-    Require(!SaveHallOfFameEntry(game, entry.strName), "an entry can be inserted");
-    Require(folder.Count() == intFiles, "what the program writes is in form");
-}
-
 } // namespace
 
 void TryInput(std::string_view bytes) {
@@ -57,21 +47,23 @@ void TryInput(std::string_view bytes) {
     RemoveFile(folder.Path(strDamagedName));
     // The levels and the time come from the input as well, without a place in the file for them.
     const std::size_t lngChoice = std::hash<std::string_view>{}(bytes);
-    const int intLevel = static_cast<int>(lngChoice % intLevelCount) + 1;
-    const int intOther = static_cast<int>((lngChoice >> 8U) % intLevelCount) + 1;
-    const int intWatched = lngChoice >> 63U ? intOther : intLevel;
+    const int intWatched = static_cast<int>(lngChoice % intLevelCount) + 1;
+    const int intLevel = static_cast<int>((lngChoice >> (lngChoice >> 63U)) % intLevelCount) + 1;
     IdleDesktop desktop;
     Game game(desktop);
     game.strProgramFolder = folder.Path();
     game.lngSeconds = static_cast<std::int32_t>(lngChoice >> 16U);
-    const HallOfFameEntry entry{"A player", 0, 0, game.lngSeconds};
+    HallOfFameEntry moved{"A player", 0, 0, game.lngSeconds};
 
     LevelEntries entries = ReadLevel(game, intWatched);
     TryRewrite(game, folder, bytes);
-    game.lblLevel = GetLevelName(intLevel);
+    game.statistics.lblLevel = GetLevelName(intLevel);
     if (intWatched == intLevel)
-        InsertEntry(entries, GetRank(game), entry);
-    TryInsert(game, folder, entry);
+        for (int i = GetRank(game); i <= LevelEntries::size(); ++i)
+            std::swap(entries[i], moved);
+    const std::ptrdiff_t intFiles = folder.Count();
+    Require(!SaveHallOfFameEntry(game, "A player"), "an entry can be inserted");
+    Require(folder.Count() == intFiles, "what the program writes is in form");
     Require(ReadLevel(game, intWatched) == entries,
             "the entry stands at its rank and every other reads back the same");
 }

@@ -9,10 +9,10 @@ install_missing "${build_packages[@]}" clang-format clang-tidy
 
 git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run -Werror
 
-# A folder of its own, because clang cannot read the precompiled headers of g++.
+# A folder of its own, because each source is checked by itself.
 folder=build/tidy
-cmake --preset release -B "$folder" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+cmake --preset release -B "$folder" -DCMAKE_UNITY_BUILD=OFF \
     -DCELLORA_BUILD_TESTS=OFF >/dev/null
-cmake --build "$folder" --target cellora_ui_autogen cellora_autogen >/dev/null
-git ls-files 'core/*.cpp' 'store/*.cpp' 'play/*.cpp' 'flow/*.cpp' 'ui/*.cpp' main.cpp |
+cmake --build "$folder" --target cellora_ui_autogen >/dev/null
+git ls-files 'core/*.cpp' 'store/*.cpp' 'rules/*.cpp' 'ui/*.cpp' main.cpp |
     xargs -P "$(nproc)" -n 4 clang-tidy -p "$folder" --quiet

@@ -50,7 +50,7 @@ std::string GetFolderFromPath(std::string strPath) {
 std::string JoinPath(const std::string& strFolder, const std::string& strName) {
     if (GetFolderFromPath(strFolder) == strFolder)
         return strFolder + strName;
-    return strFolder + "/" + strName;
+    return strFolder + static_cast<char>(std::filesystem::path::preferred_separator) + strName;
 }
 
 void RemoveFile(const std::string& strPath) {

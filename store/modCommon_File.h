@@ -12,12 +12,12 @@ bool FileExists(std::string strPath);
 /// True for any existing path, folder or file; false as in `FileExists`.
 bool PathExists(std::string strPath);
 
-/// The path up to and including its last "/", or its last backslash when it holds no "/". Empty
-/// text when it holds neither.
+/// The path up to and including its last "/", or its last backslash when it holds no "/"; on
+/// Windows the last of either. Empty text when it holds neither.
 std::string GetFolderFromPath(std::string strPath);
 
-/// The path of `strName` inside `strFolder`, which may or may not end with a separator. An empty
-/// folder gives the bare name.
+/// The path of `strName` inside `strFolder`, which may or may not end with a separator; what is put
+/// between them is the system's own. An empty folder gives the bare name.
 std::string JoinPath(const std::string& strFolder, const std::string& strName);
 
 /// Removes a file, or gives it another path on the same disk in place of any file there. Failures

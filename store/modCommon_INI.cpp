@@ -1,6 +1,7 @@
 #include "store/modCommon_INI.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -140,8 +141,13 @@ std::string GetStoredForm(const std::string& strValue) {
     return blnKept ? strValue : "\"" + strValue + "\"";
 }
 
-std::string SetValue(std::string_view strText, const std::string& strSection,
-                     const std::string& strKey, const std::string& strValue) {
+bool IsWritable(const INIValue& value) {
+    return IsWritableName(value.strSection, "\r\n]") && IsWritableName(value.strKey, "\r\n=[;") &&
+           value.strValue.find_first_of("\r\n") == std::string::npos;
+}
+
+std::string SetValue(std::string_view strText, const INIValue& value) {
+    const auto& [strSection, strKey, strValue] = value;
     std::string strResult(SplitByteOrderMark(strText));
     const Place place = FindPlace(strText, strSection, strKey);
     if (place.blnKeyFound) {
@@ -164,28 +170,33 @@ std::string SetValue(std::string_view strText, const std::string& strSection,
 
 std::string ReadINI(const std::string& strSection, const std::string& strKey,
                     const std::string& strPath) {
-    const std::optional<std::string> strFile = ReadWholeFile(strPath, lngMaxINIBytes);
-    if (!strFile)
-        return {};
-    std::string_view strText = *strFile;
-    SplitByteOrderMark(strText);
-    const Place place = FindPlace(strText, strSection, strKey);
+    return FindINI(ReadWholeFile(strPath, lngMaxINIBytes).value_or(""), strSection, strKey);
+}
+
+std::string FindINI(std::string_view strFile, std::string_view strSection,
+                    std::string_view strKey) {
+    SplitByteOrderMark(strFile);
+    const Place place = FindPlace(strFile, strSection, strKey);
     const std::string_view strValue =
-        strText.substr(place.lngValueBegin, place.lngValueEnd - place.lngValueBegin);
+        strFile.substr(place.lngValueBegin, place.lngValueEnd - place.lngValueBegin);
     return std::string(CutToLimit(DropQuotes(TrimBlanks(strValue))));
 }
 
 void WriteINI(const std::string& strSection, const std::string& strKey, const std::string& strValue,
               const std::string& strPath) {
-    if (!IsWritableName(strSection, "\r\n]") || !IsWritableName(strKey, "\r\n=[;") ||
-        strValue.find_first_of("\r\n") != std::string::npos)
-        return;
+    WriteINI(std::array{INIValue{strSection, strKey, strValue}}, strPath);
+}
+
+void WriteINI(std::span<const INIValue> values, const std::string& strPath) {
     const std::optional<std::string> strFile = ReadWholeFile(strPath, lngMaxINIBytes);
-    // A file that is there but cannot be read must not be replaced by one that holds a single key.
+    // A file that is there but cannot be read must not be replaced by one that holds a few keys.
     if (!strFile && PathExists(strPath))
         return;
-    const std::string strText = SetValue(strFile.value_or(""), strSection, strKey, strValue);
-    if (strText != strFile && strText.size() <= lngMaxINIBytes)
+    std::string strText = strFile.value_or("");
+    for (const INIValue& value : values)
+        if (IsWritable(value))
+            strText = SetValue(strText, value);
+    if (strText != strFile.value_or("") && strText.size() <= lngMaxINIBytes)
         ReplaceFile(strPath, strText);
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
+#include <string_view>
 
 /// Single values of a text file of sections, keys and values:
 ///
@@ -23,6 +25,9 @@ inline constexpr std::size_t lngMaxINIBytes = std::size_t{16} << 20U;
 std::string ReadINI(const std::string& strSection, const std::string& strKey,
                     const std::string& strPath);
 
+/// The same value in the content of a file.
+std::string FindINI(std::string_view strFile, std::string_view strSection, std::string_view strKey);
+
 /// Stores the value and writes the file through to disk, whole, unless it already holds exactly
 /// these bytes. An existing value is replaced in its line; a new key goes behind the last line of
 /// its section that is not blank, a new section to the end of the file, both with the line ending
@@ -34,5 +39,15 @@ std::string ReadINI(const std::string& strSection, const std::string& strKey,
 /// around it.
 void WriteINI(const std::string& strSection, const std::string& strKey, const std::string& strValue,
               const std::string& strPath);
+
+struct INIValue {
+    std::string strSection;
+    std::string strKey;
+    std::string strValue;
+};
+
+/// Stores several values, in their order, by one replacement of the file. A text that could not be
+/// read back is left out.
+void WriteINI(std::span<const INIValue> values, const std::string& strPath);
 
 } // namespace cellora

@@ -1,6 +1,7 @@
 #include "store/program_folder.h"
 
 #include <QDir>
+#include <QStandardPaths>
 #include <QString>
 #include <QTemporaryFile>
 
@@ -15,46 +16,33 @@ constexpr int msPlaceTimeout = 2000;
 
 /// Trying is the only sure answer: permissions alone know nothing of read-only disks and quotas.
 bool CanCreateFile(const std::string& strFolder) {
-    if (strFolder.empty())
-        return false;
     QTemporaryFile file(QString::fromStdString(JoinPath(strFolder, "cellora-XXXXXX.tmp")));
     return file.open();
-}
-
-/// Keeps the separator of a root such as "/" or "C:\".
-std::string DropEndSeparators(std::string strFolder) {
-    while (strFolder.size() > 1 && GetFolderFromPath(strFolder) == strFolder &&
-           strFolder[strFolder.size() - 2] != ':')
-        strFolder.pop_back();
-    return strFolder;
-}
-
-std::string GetEnvironmentText(const char* strName) {
-    return qEnvironmentVariable(strName).toStdString();
 }
 
 } // namespace
 
 std::string GetUserDataFolder() {
-#ifdef _WIN32
-    const std::string strData = GetEnvironmentText("LOCALAPPDATA");
-    return strData.empty() ? std::string() : strData + "\\Cellora";
-#else
+    QString strData = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     // A relative folder would lie somewhere else at every start.
-    const std::string strData = GetEnvironmentText("XDG_DATA_HOME");
-    if (strData.starts_with('/'))
-        return JoinPath(strData, "cellora");
-    const std::string strHome = GetEnvironmentText("HOME");
-    return strHome.starts_with('/') ? JoinPath(strHome, ".local/share/cellora") : std::string();
+    if (QDir::isRelativePath(strData))
+        strData = QDir::homePath() + QStringLiteral("/.local/share");
+    if (QDir::isRelativePath(strData))
+        return {};
+#ifdef _WIN32
+    const QString strFolder = strData + QStringLiteral("/Cellora");
+#else
+    const QString strFolder = strData + QStringLiteral("/cellora");
 #endif
+    return QDir::toNativeSeparators(QDir::cleanPath(strFolder)).toStdString();
 }
 
 std::string GetProgramFolder(const std::string& strExecutableFolder,
                              const std::string& strUserDataFolder) {
     if (strUserDataFolder.empty() || CanCreateFile(strExecutableFolder))
-        return DropEndSeparators(strExecutableFolder);
+        return strExecutableFolder;
     QDir().mkpath(QString::fromStdString(strUserDataFolder));
-    return DropEndSeparators(strUserDataFolder);
+    return strUserDataFolder;
 }
 
 void PlaceShippedFiles(const std::string& strFolder, std::span<const ShippedFile> files) {

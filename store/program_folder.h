@@ -14,13 +14,13 @@ struct ShippedFile {
 };
 
 /// The program's own folder inside the user's data: `$XDG_DATA_HOME/cellora` or
-/// `~/.local/share/cellora`, on Windows `%LOCALAPPDATA%\Cellora`. Empty when the environment names
-/// no such place. Nothing is created.
+/// `~/.local/share/cellora`, on Windows `%LOCALAPPDATA%\Cellora`, on macOS
+/// `~/Library/Application Support/cellora`. Empty when there is no such place. Nothing is created.
 std::string GetUserDataFolder();
 
-/// The folder of the settings and hall-of-fame files, without a separator at its end: the folder of
-/// the running program when a file can be created there, else `strUserDataFolder`, made when
-/// missing. When there is no user's folder either, the program's folder all the same.
+/// The folder of the settings and hall-of-fame files: the folder of the running program when a file
+/// can be created there, else `strUserDataFolder`, made when missing. When there is no user's
+/// folder either, the program's folder all the same. The folders have no separator at their end.
 std::string GetProgramFolder(const std::string& strExecutableFolder,
                              const std::string& strUserDataFolder);
 

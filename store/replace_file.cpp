@@ -32,12 +32,14 @@ bool WriteAll(QSaveFile& file, std::string_view bytes) {
 
 std::optional<std::string> ReplaceFile(const std::string& strPath, std::string_view bytes) {
     QSaveFile file(QString::fromStdString(strPath));
-    file.setDirectWriteFallback(false);
     // Unbuffered, because a short write of the buffer would go unnoticed.
     if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteAll(file, bytes) &&
         file.commit())
         return std::nullopt;
-    return "\"" + strPath + "\" could not be written: " + file.errorString().toStdString() + ".";
+    std::string strReason = file.errorString().toStdString();
+    if (strReason.ends_with('.')) // as every message of Windows does
+        strReason.pop_back();
+    return "\"" + strPath + "\" could not be written: " + strReason + ".";
 }
 
 std::optional<std::string> ReadWholeFile(const std::string& strPath, std::size_t lngMaxBytes) {

@@ -3,6 +3,7 @@
 #include <cassert>
 #include <utility>
 
+#include "core/modCellora.h"
 #include "core/text.h"
 
 namespace cellora {
@@ -13,25 +14,12 @@ constexpr std::string_view strTrue = "#TRUE#";
 constexpr std::string_view strFalse = "#FALSE#";
 constexpr std::size_t lngUsualBytes = 4096;
 
-/// A value of the record and its place in the game.
-template <typename Value>
-struct Field {
-    Value SavedGame::*saved;
-    Value Game::*played;
-};
-
 /// In the order of their lines.
-constexpr Field<std::int32_t> aCounters[] = {
-    {&SavedGame::lngHours, &Game::lngHours},
-    {&SavedGame::lngMinutes, &Game::lngMinutes},
-    {&SavedGame::lngSeconds, &Game::lngSeconds},
-};
-constexpr Field<std::string> aCaptions[] = {
-    {&SavedGame::strLevel, &Game::lblLevel},
-    {&SavedGame::strVisibleCells, &Game::lblVisibleCells},
-    {&SavedGame::strSolvedByYou, &Game::lblSolvedByYou},
-    {&SavedGame::strCellsToSolve, &Game::lblCellsToSolve},
-    {&SavedGame::strIncorrectCells, &Game::lblIncorrectCells},
+constexpr std::int32_t SavedGame::*aCounters[] = {&SavedGame::lngHours, &SavedGame::lngMinutes,
+                                                  &SavedGame::lngSeconds};
+constexpr std::string Statistics::*aCaptions[] = {
+    &Statistics::lblLevel,        &Statistics::lblVisibleCells,   &Statistics::lblSolvedByYou,
+    &Statistics::lblCellsToSolve, &Statistics::lblIncorrectCells,
 };
 constexpr std::string SavedCell::*aCellTexts[] = {&SavedCell::strSolution, &SavedCell::strEntry,
                                                   &SavedCell::strNotes};
@@ -109,12 +97,12 @@ bool ReadCell(Reader& reader, SavedCell& cell) {
 }
 
 bool ReadStatistics(Reader& reader, SavedGame& savedGame) {
-    for (const auto& counter : aCounters) {
-        if (!reader.Number(savedGame.*counter.saved))
+    for (const auto counter : aCounters) {
+        if (!reader.Number(savedGame.*counter))
             return false;
     }
-    for (const auto& caption : aCaptions) {
-        if (!reader.Text(savedGame.*caption.saved))
+    for (const auto caption : aCaptions) {
+        if (!reader.Text(savedGame.statistics.*caption))
             return false;
     }
     return true;
@@ -124,10 +112,10 @@ bool ReadStatistics(Reader& reader, SavedGame& savedGame) {
 
 std::string FormatSavedGame(const SavedGame& savedGame) {
     Writer writer;
-    for (const auto& counter : aCounters)
-        writer.Number(savedGame.*counter.saved);
-    for (const auto& caption : aCaptions)
-        writer.Text(savedGame.*caption.saved);
+    for (const auto counter : aCounters)
+        writer.Number(savedGame.*counter);
+    for (const auto caption : aCaptions)
+        writer.Text(savedGame.statistics.*caption);
     for (int i = 1; i <= intCellCount; ++i) {
         const SavedCell& cell = savedGame.cells[i];
         writer.Text(std::to_string(i));
@@ -151,11 +139,7 @@ std::optional<SavedGame> ParseSavedGame(std::string_view bytes) {
 }
 
 SavedGame TakeGame(const Game& game) {
-    SavedGame savedGame;
-    for (const auto& counter : aCounters)
-        savedGame.*counter.saved = game.*counter.played;
-    for (const auto& caption : aCaptions)
-        savedGame.*caption.saved = game.*caption.played;
+    SavedGame savedGame{game.lngHours, game.lngMinutes, game.lngSeconds, game.statistics, {}};
     for (int i = 1; i <= intCellCount; ++i) {
         const Cell& cell = game.cells[i];
         savedGame.cells[i] = {cell.blnGiven, cell.strSolution, cell.strEntry, cell.strNotes};
@@ -166,10 +150,10 @@ SavedGame TakeGame(const Game& game) {
 void PutGame(Game& game, const SavedGame& savedGame) {
     ResetGrid(game);
     ResetCandidate(game);
-    for (const auto& counter : aCounters)
-        game.*counter.played = savedGame.*counter.saved;
-    for (const auto& caption : aCaptions)
-        game.*caption.played = savedGame.*caption.saved;
+    game.lngHours = savedGame.lngHours;
+    game.lngMinutes = savedGame.lngMinutes;
+    game.lngSeconds = savedGame.lngSeconds;
+    game.statistics = savedGame.statistics;
     for (int i = 1; i <= intCellCount; ++i) {
         const SavedCell& saved = savedGame.cells[i];
         Cell& cell = game.cells[i];

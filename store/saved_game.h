@@ -6,10 +6,13 @@
 #include <string>
 #include <string_view>
 
-#include "core/modCellora.h"
+#include "core/numbered.h"
+#include "core/statistics.h"
 
 /// What a saved-game file holds, and its form: 413 lines of one value each (docs/file-formats.md).
 namespace cellora {
+
+struct Game;
 
 /// A larger file is no saved game.
 inline constexpr std::size_t lngMaxSavedGameBytes = std::size_t{1} << 20U;
@@ -29,11 +32,7 @@ struct SavedGame {
     std::int32_t lngHours = 0;
     std::int32_t lngMinutes = 0;
     std::int32_t lngSeconds = 0;
-    std::string strLevel;
-    std::string strVisibleCells;
-    std::string strSolvedByYou;
-    std::string strCellsToSolve;
-    std::string strIncorrectCells;
+    Statistics statistics;
     Numbered<SavedCell, intCellCount> cells;
 
     bool operator==(const SavedGame&) const = default;
@@ -52,8 +51,8 @@ std::optional<SavedGame> ParseSavedGame(std::string_view bytes);
 SavedGame TakeGame(const Game& game);
 
 /// Puts the record on the board: its clock counters, cells and statistics replace those of the
-/// game, entries are shown and outlines are thin. Wrong marks, the shown time and whether a game is
-/// active or changed are left to the caller.
+/// game, entries are shown and outlines are thin. Wrong marks and whether a game is in play or
+/// changed are left to the caller.
 void PutGame(Game& game, const SavedGame& savedGame);
 
 } // namespace cellora

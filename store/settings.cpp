@@ -1,188 +1,148 @@
 #include "store/settings.h"
 
-#include <algorithm>
 #include <cmath>
-#include <iterator>
-#include <limits>
-#include <locale>
 #include <optional>
-#include <sstream>
 #include <string_view>
+#include <type_traits>
+#include <variant>
+#include <vector>
 
-#include "core/modCommon_Constants.h"
+#include <QLocale>
+#include <QRegularExpression>
+#include <QString>
+
+#include "core/settings.h"
 #include "core/text.h"
 #include "store/ascii.h"
 #include "store/modCommon_INI.h"
+#include "store/replace_file.h"
 
 namespace cellora {
 
 namespace {
 
-struct Setting {
+/// Where a value is kept in memory, which tells its kind. The default is that of fresh settings.
+using Member = std::variant<ColorSlot, std::int16_t Settings::*, bool Settings::*,
+                            double Settings::*, std::string Settings::*>;
+
+struct Row {
+    SettingsGroup group;
     const char* strSection;
     const char* strKey;
-    std::int32_t lngDefault;
+    Member member;
 };
 
-constexpr Color lngRed = MakeColor(255, 0, 0);
-constexpr Color lngBlue = MakeColor(0, 0, 255);
-constexpr Color lngLightYellow = MakeColor(255, 255, 192);
-
-/// The colours in the order of `ColorKey`, then the panes in the order of `ViewFlag`.
-constexpr Setting settings[] = {
-    {"color", "screenbackground", lngColorWhite},
-    {"color", "gridbackground", lngColorWhite},
-    {"color", "gridlines", lngColorBlack},
-    {"color", "gridx", lngLightYellow},
-    {"color", "gridcursor", lngBlue},
-    {"color", "fontuser", lngBlue},
-    {"color", "fontcomputer", lngColorBlack},
-    {"color", "gridincorrectcell", lngRed},
-    {"view", "statusbar", 1},
-    {"view", "toolbar", 1},
-    {"view", "numberselector", 1},
-    {"view", "statistics", 1},
-    {"view", "cellerrors", 1},
-    {"view", "cursor", 0},
-    {"general", "startup", 0},
-    {"general", "path", 0},
+/// Each group in the order of its writing.
+constexpr Row aRows[] = {
+    {SettingsGroup::Options, "color", "screenbackground", lngColorScreenBackground},
+    {SettingsGroup::Options, "color", "gridbackground", lngColorGridBackground},
+    {SettingsGroup::Options, "color", "gridlines", lngColorGridLines},
+    {SettingsGroup::Options, "color", "gridx", lngColorGridX},
+    {SettingsGroup::Options, "color", "gridcursor", lngColorGridCursor},
+    {SettingsGroup::Options, "color", "fontuser", lngColorFontUser},
+    {SettingsGroup::Options, "color", "fontcomputer", lngColorFontComputer},
+    {SettingsGroup::Options, "color", "gridincorrectcell", lngColorIncorrectCell},
+    {SettingsGroup::Options, "view", "cursor", &Settings::intCursorOption},
+    {SettingsGroup::View, "view", "statusbar", &Settings::blnStatusBar},
+    {SettingsGroup::View, "view", "toolbar", &Settings::blnToolbar},
+    {SettingsGroup::View, "view", "numberselector", &Settings::blnNumberSelector},
+    {SettingsGroup::View, "view", "statistics", &Settings::blnStatistics},
+    {SettingsGroup::View, "view", "cellerrors", &Settings::blnCellErrors},
+    {SettingsGroup::Startup, "general", "startup", &Settings::dblStartup},
+    {SettingsGroup::Path, "general", "path", &Settings::strGameFolder},
 };
-
-constexpr std::size_t lngFirstViewFlag = static_cast<std::size_t>(ColorKey::GridIncorrectCell) + 1;
-constexpr std::size_t lngCursor =
-    lngFirstViewFlag + static_cast<std::size_t>(ViewFlag::CellErrors) + 1;
-
-constexpr const Setting& settingCursor = settings[lngCursor];
-constexpr const Setting& settingStartup = settings[lngCursor + 1];
-constexpr const Setting& settingPath = settings[lngCursor + 2];
-static_assert(std::size(settings) == lngCursor + 3);
-
-const Setting& GetSetting(ColorKey key) {
-    return settings[static_cast<std::size_t>(key)];
-}
-
-const Setting& GetSetting(ViewFlag flag) {
-    return settings[lngFirstViewFlag + static_cast<std::size_t>(flag)];
-}
-
-std::string Read(const Setting& setting, const std::string& strPath) {
-    return ReadINI(setting.strSection, setting.strKey, strPath);
-}
-
-void Write(const Setting& setting, const std::string& strValue, const std::string& strPath) {
-    WriteINI(setting.strSection, setting.strKey, strValue, strPath);
-}
-
-template <typename Whole>
-Whole ReadWhole(const Setting& setting, const std::string& strPath) {
-    return ParseWhole<Whole>(Read(setting, strPath))
-        .value_or(static_cast<Whole>(setting.lngDefault));
-}
 
 struct LeadingNumber {
-    double dblValue = 0;
+    double dblValue;
     std::string_view strRest; ///< what follows the number
 };
 
-/// The length of the decimal number at the start of the text, 0 when there is none: digits with at
-/// most one point, and an exponent where digits follow its letter.
-std::size_t GetNumberLength(std::string_view strText) {
-    std::size_t lngAt = 0;
-    const auto Skip = [&](std::string_view strCharacters) {
-        const bool blnThere =
-            lngAt < strText.size() && strCharacters.find(strText[lngAt]) != std::string_view::npos;
-        lngAt += blnThere ? 1 : 0;
-        return blnThere;
-    };
-    const auto SkipDigits = [&] {
-        const std::size_t lngBegin = lngAt;
-        while (Skip("0123456789")) {
-        }
-        return lngAt - lngBegin;
-    };
-    Skip("-");
-    std::size_t lngDigits = SkipDigits();
-    if (Skip("."))
-        lngDigits += SkipDigits();
-    if (lngDigits == 0)
-        return 0;
-    const std::size_t lngEnd = lngAt;
-    if (!Skip("eE"))
-        return lngEnd;
-    Skip("+-");
-    return SkipDigits() > 0 ? lngAt : lngEnd;
-}
-
 std::optional<LeadingNumber> ParseLeadingNumber(std::string_view strText) {
-    if (strText.starts_with('+'))
-        strText.remove_prefix(1);
-    const std::size_t lngLength = GetNumberLength(strText);
-    LeadingNumber number{.strRest = strText.substr(lngLength)};
-    // Not every standard library's from_chars knows floating point yet.
-    std::istringstream stream{std::string(strText.substr(0, lngLength))};
-    stream.imbue(std::locale::classic());
-    stream >> number.dblValue;
-    return stream.fail() ? std::nullopt : std::optional(number);
+    static const QRegularExpression form(
+        QStringLiteral("^\\+?(-?(?:\\d+\\.?\\d*|\\.\\d+)(?:[eE][+-]?\\d+)?)"));
+    // A character for each byte, so that lengths agree.
+    const QRegularExpressionMatch match =
+        form.match(QString::fromLatin1(strText.data(), static_cast<qsizetype>(strText.size())));
+    if (!match.hasMatch())
+        return std::nullopt;
+    const double dblValue = QLocale::c().toDouble(match.captured(1));
+    if (std::isinf(dblValue))
+        return std::nullopt;
+    return LeadingNumber{dblValue,
+                         strText.substr(static_cast<std::size_t>(match.capturedLength()))};
 }
 
-double ReadStartupNumber(const std::string& strPath) {
-    return ParseLeadingNumber(Read(settingStartup, strPath))
-        .value_or(LeadingNumber{static_cast<double>(settingStartup.lngDefault), {}})
-        .dblValue;
+/// Each takes the value where the text holds one and else leaves the default.
+void Parse(std::string_view strText, std::string& strValue) {
+    strValue = strText;
+}
+
+template <std::integral Whole>
+void Parse(std::string_view strText, Whole& number) {
+    number = ParseWhole<Whole>(strText).value_or(number);
+}
+
+void Parse(std::string_view strText, double& dblValue) {
+    if (const auto number = ParseLeadingNumber(strText))
+        dblValue = number->dblValue;
+}
+
+void Parse(std::string_view strText, bool& blnValue) {
+    if (EqualsIgnoringCase(strText, "True") || EqualsIgnoringCase(strText, "False"))
+        blnValue = EqualsIgnoringCase(strText, "True");
+    else if (const auto number = ParseLeadingNumber(strText); number && number->strRest.empty())
+        blnValue = number->dblValue != 0;
+}
+
+std::string Format(const std::string& strValue) {
+    return strValue;
+}
+
+template <std::integral Whole>
+std::string Format(Whole number) {
+    return std::to_string(number);
+}
+
+std::string Format(double dblValue) {
+    return dblValue == 1 ? "1" : "0";
+}
+
+std::string Format(bool blnValue) {
+    return blnValue ? "True" : "False";
+}
+
+/// Calls `fnUse` with the value that the row stands for.
+template <typename AnySettings, typename Use>
+auto Visit(const Row& row, AnySettings& settings, Use fnUse) {
+    return std::visit(
+        [&](auto member) {
+            if constexpr (std::is_same_v<decltype(member), ColorSlot>)
+                return fnUse(settings.colors[member]);
+            else
+                return fnUse(settings.*member);
+        },
+        row.member);
 }
 
 } // namespace
 
-std::int32_t ReadColor(ColorKey key, const std::string& strPath) {
-    return ReadWhole<std::int32_t>(GetSetting(key), strPath);
+Settings LoadSettings(const std::string& strPath) {
+    const std::string strFile = ReadWholeFile(strPath, lngMaxINIBytes).value_or("");
+    Settings settings;
+    for (const Row& row : aRows)
+        Visit(row, settings,
+              [&](auto& value) { Parse(FindINI(strFile, row.strSection, row.strKey), value); });
+    return settings;
 }
 
-void WriteColor(ColorKey key, std::int32_t lngColor, const std::string& strPath) {
-    Write(GetSetting(key), std::to_string(lngColor), strPath);
-}
-
-bool ReadViewFlag(ViewFlag flag, const std::string& strPath) {
-    const std::string strValue = Read(GetSetting(flag), strPath);
-    if (EqualsIgnoringCase(strValue, "True") || EqualsIgnoringCase(strValue, "False"))
-        return EqualsIgnoringCase(strValue, "True");
-    const std::optional<LeadingNumber> number = ParseLeadingNumber(strValue);
-    if (number && number->strRest.empty())
-        return number->dblValue != 0;
-    return GetSetting(flag).lngDefault != 0;
-}
-
-void WriteViewFlag(ViewFlag flag, bool blnShown, const std::string& strPath) {
-    Write(GetSetting(flag), blnShown ? "True" : "False", strPath);
-}
-
-std::int16_t ReadCursorOption(const std::string& strPath) {
-    return ReadWhole<std::int16_t>(settingCursor, strPath);
-}
-
-void WriteCursorOption(std::int16_t intOption, const std::string& strPath) {
-    Write(settingCursor, std::to_string(intOption), strPath);
-}
-
-bool OpensAtStartup(const std::string& strPath) {
-    return ReadStartupNumber(strPath) == 1;
-}
-
-std::int32_t ReadStartup(const std::string& strPath) {
-    using Limits = std::numeric_limits<std::int32_t>;
-    const double dblRounded = std::nearbyint(ReadStartupNumber(strPath));
-    return static_cast<std::int32_t>(std::clamp<double>(dblRounded, Limits::min(), Limits::max()));
-}
-
-void WriteStartup(bool blnShow, const std::string& strPath) {
-    Write(settingStartup, blnShow ? "1" : "0", strPath);
-}
-
-std::string ReadGamePath(const std::string& strPath) {
-    return Read(settingPath, strPath);
-}
-
-void WriteGamePath(const std::string& strFolder, const std::string& strPath) {
-    Write(settingPath, strFolder, strPath);
+void SaveSettings(const Settings& settings, SettingsGroup group, const std::string& strPath) {
+    std::vector<INIValue> values;
+    for (const Row& row : aRows)
+        if (row.group == group)
+            values.push_back(
+                {row.strSection, row.strKey,
+                 Visit(row, settings, [](const auto& value) { return Format(value); })});
+    WriteINI(values, strPath);
 }
 
 } // namespace cellora

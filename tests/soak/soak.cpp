@@ -1,22 +1,15 @@
 // Plays whole games through the main window: test_soak [GAMES [SEED]]. The seed repeats the
 // player's choices; the puzzles depend on the time of day as well.
 
-#include <charconv>
-#include <chrono>
-#include <fstream>
 #include <iostream>
 #include <random>
 
-#include <QApplication>
-#include <QPixmapCache>
-
-#include <gtest/gtest.h>
 #include <malloc.h>
-#include <unistd.h>
 
 #include "tests/soak/random_player.h"
 #include "tests/support/running_program.h"
-#include "ui/look.h"
+#include "ui/desktop/look.h"
+#include "ui/dialogs/frmSplash.h"
 
 #ifdef __SANITIZE_ADDRESS__
 /// The sanitizer's own; the compiler brings no header for it.
@@ -34,21 +27,8 @@ namespace {
 
 constexpr double dblMostGrowth = 4; // MiB, after the first tenth of the games
 
-struct SoakOptions {
-    int intGames = 2;
-    std::uint64_t lngSeed = std::random_device()();
-};
-
-SoakOptions options;
-
-/// In MiB.
-double GetResidentMemory() {
-    std::ifstream file("/proc/self/statm");
-    long lngPages = 0;
-    long lngResident = 0;
-    file >> lngPages >> lngResident;
-    return static_cast<double>(lngResident * sysconf(_SC_PAGESIZE)) / (1 << 20);
-}
+int intGames = 2;
+std::uint64_t lngSeed = std::random_device()();
 
 /// The memory that must not grow, in MiB: what is allocated. The resident memory depends on how
 /// well the allocator fills its pages, and under the sanitizers on records of their own.
@@ -63,30 +43,25 @@ double GetMemoryInUse() {
 }
 
 TEST(Soak, TheWindowShowsWhatTheGameSays) {
-    std::cout << options.intGames << " games with seed " << options.lngSeed << std::endl;
+    std::cout << intGames << " games with seed " << lngSeed << std::endl;
     RunningProgram run;
-    run.Start();
-    run.game().lngRandomState = options.lngSeed;
-    RandomPlayer player(run, options.lngSeed);
-    const int intFirstGames = std::max(1, options.intGames / 10);
+    run.WriteSettings();
+    run.Launch();
+    frmSplash& splash = *run.program->splash();
+    for (QTimer* const timer : {&splash.tmrSplash(), &splash.tmrSplash2()})
+        QMetaObject::invokeMethod(timer, "timeout");
+    run.Activate();
+    run.game().lngRandomState = lngSeed;
+    const auto fnPlayGame = MakeRandomPlayer(run, lngSeed);
     double dblFirst = 0;
-    double dblFirstInUse = 0;
-    const auto start = std::chrono::steady_clock::now();
-    for (int intGame = 1; intGame <= options.intGames && !HasFailure(); ++intGame) {
-        SCOPED_TRACE("game " + std::to_string(intGame));
-        player.PlayGame();
-        if (intGame == intFirstGames) {
-            dblFirst = GetResidentMemory();
-            dblFirstInUse = GetMemoryInUse();
-        }
+    int intMoves = 0;
+    for (int intGame = 1; intGame <= intGames && !HasFailure(); ++intGame) {
+        intMoves = fnPlayGame();
+        if (intGame == std::max(1, intGames / 10))
+            dblFirst = GetMemoryInUse();
     }
-    const double dblGrowth = GetMemoryInUse() - dblFirstInUse;
-    const std::chrono::duration<double> duration = std::chrono::steady_clock::now() - start;
-    std::cout << options.intGames << " games, " << player.GetMoveCount() << " moves, "
-              << player.GetCheckCount() << " checks in " << duration.count() << " s\n"
-              << "resident memory: " << dblFirst << " MiB after the first " << intFirstGames << ", "
-              << GetResidentMemory() << " MiB at the end\ngrowth in use: " << dblGrowth << " MiB"
-              << std::endl;
+    const double dblGrowth = GetMemoryInUse() - dblFirst;
+    std::cout << intMoves << " moves, growth in use: " << dblGrowth << " MiB" << std::endl;
     EXPECT_TRUE(HasFailure() || dblGrowth < dblMostGrowth) << "the program grew";
 }
 
@@ -96,26 +71,17 @@ void HearToolkit(QtMsgType type, const QMessageLogContext&, const QString& strMe
         ADD_FAILURE() << "the toolkit warns: " << strMessage.toStdString();
 }
 
-template <typename Number>
-bool ReadNumber(const std::string_view strText, Number& number) {
-    const auto [end, error] =
-        std::from_chars(strText.data(), strText.data() + strText.size(), number);
-    return error == std::errc() && end == strText.data() + strText.size();
-}
-
 } // namespace
 
 } // namespace cellora
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    auto& options = cellora::options;
-    if (argc > 3 ||
-        (argc > 1 && (!cellora::ReadNumber(argv[1], options.intGames) || options.intGames < 1)) ||
-        (argc > 2 && !cellora::ReadNumber(argv[2], options.lngSeed))) {
-        std::cerr << "usage: test_soak [GAMES [SEED]]\n";
-        return 2;
-    }
+    if (argc > 1)
+        cellora::intGames = std::stoi(argv[1]);
+    if (argc > 2)
+        cellora::lngSeed = std::stoull(argv[2]);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     cellora::ApplyLook();
     // The toolkit fills its cache of pictures in the course of some hundred games.

@@ -12,100 +12,62 @@
 
 namespace cellora {
 
-/// Lets no file grow beyond a size, as a disk that fills up does. A test that reports a failure
-/// meanwhile may lose it.
-class FileSizeLimit final {
-public:
-    explicit FileSizeLimit(rlim_t lngBytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &old_);
-        const rlimit limit{lngBytes, old_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, oldHandler_);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    rlimit old_{};
-    void (*oldHandler_)(int);
-};
+/// Runs the routine while no file can grow beyond a size, as on a disk that fills up. A test that
+/// reports a failure meanwhile may lose it.
+template <typename Routine>
+auto WithFileSizeLimit(rlim_t lngBytes, Routine fnRun) {
+    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    const rlimit limit{lngBytes, old.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    auto result = fnRun();
+    setrlimit(RLIMIT_FSIZE, &old);
+    std::signal(SIGXFSZ, oldHandler);
+    return result;
+}
 
 /// A copy of this process that runs one routine and may tell its steps. Nothing of the test
 /// framework works in it.
 class ChildProcess final {
 public:
-    /// The routine calls `fnTell` after each of its steps; the child ends with 0 when it returns
-    /// true, with 1 when false and with 3 when it throws.
-    using Routine = std::function<bool(const std::function<void()>& fnTell)>;
-
-    explicit ChildProcess(const Routine& fnRun) {
-        int aPipe[2] = {-1, -1};
-        if (pipe(aPipe) != 0)
+    /// The child ends with 0 when the routine returns true, else with 1.
+    explicit ChildProcess(const std::function<bool(const std::function<void()>& fnTell)>& fnRun) {
+        if (pipe(aPipe_) != 0 || (pid_ = fork()) != 0)
             return;
-        pid_ = fork();
-        if (pid_ == 0) {
-            close(aPipe[0]);
-            const auto fnTell = [fd = aPipe[1]] {
-                if (write(fd, "", 1) != 1)
-                    _exit(2);
-            };
-            try {
-                _exit(fnRun(fnTell) ? 0 : 1);
-            } catch (...) {
-                _exit(3);
-            }
-        }
-        close(aPipe[1]);
-        fd_ = aPipe[0];
+        _exit(fnRun([this] { static_cast<void>(write(aPipe_[1], "", 1) == 1); }) ? 0 : 1);
     }
-
-    /// Kills a child that still runs.
     ~ChildProcess() {
-        Kill();
-        close(fd_);
+        End(SIGKILL);
+        close(aPipe_[0]);
+        close(aPipe_[1]);
     }
-
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
 
-    /// Waits for that many steps more. The number that came, fewer when the child ended first.
-    int CountSteps(int intMost) const {
-        char character = 0;
-        int intSteps = 0;
-        while (intSteps < intMost && read(fd_, &character, 1) == 1)
-            ++intSteps;
-        return intSteps;
-    }
-
-    /// Ends the child on the spot, as a crash does. False when it had ended by itself.
-    bool Kill() {
+    /// Waits for the next step; once the child has ended, tells whether there is one more.
+    bool TakeStep() {
         if (pid_ <= 0)
-            return false;
-        kill(pid_, SIGKILL);
-        const int intStatus = WaitForStatus();
-        return WIFSIGNALED(intStatus) && WTERMSIG(intStatus) == SIGKILL;
+            close(aPipe_[1]);
+        char character = 0;
+        return read(aPipe_[0], &character, 1) == 1;
     }
 
-    /// Waits for the end; what the child ended with, -1 for a violent end.
-    int Wait() {
-        const int intStatus = WaitForStatus();
-        return WIFEXITED(intStatus) ? WEXITSTATUS(intStatus) : -1;
+    /// Waits for the end, which the signal brings about; 0 sends none. What the child ended with,
+    /// or the signal, negative.
+    int End(int intSignal) {
+        int intStatus = -1;
+        if (pid_ <= 0)
+            return 0;
+        kill(pid_, intSignal);
+        waitpid(pid_, &intStatus, 0);
+        pid_ = -1;
+        return WIFEXITED(intStatus) ? WEXITSTATUS(intStatus) : -WTERMSIG(intStatus);
     }
 
 private:
-    int WaitForStatus() {
-        int intStatus = -1;
-        if (pid_ > 0)
-            waitpid(pid_, &intStatus, 0);
-        pid_ = -1;
-        return intStatus;
-    }
-
+    int aPipe_[2] = {-1, -1};
     pid_t pid_ = -1;
-    int fd_ = -1;
 };
 
 } // namespace cellora

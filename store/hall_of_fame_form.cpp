@@ -1,0 +1,95 @@
+#include "store/hall_of_fame_form.h"
+
+#include <vector>
+
+#include "core/text.h"
+
+namespace cellora {
+
+namespace {
+
+constexpr std::size_t intLinesPerEntry = 4;
+constexpr std::size_t intLinesPerLevel = 1 + LevelEntries::size() * intLinesPerEntry;
+
+using Lines = std::vector<std::string_view>;
+
+Lines SplitLines(std::string_view strBytes) {
+    Lines lines;
+    while (!strBytes.empty())
+        lines.push_back(TakeLine(strBytes));
+    return lines;
+}
+
+bool ReadNumber(std::string_view strLine, std::int32_t& lngNumber) {
+    const auto lngRead = ParseWhole<std::int32_t>(Trim(strLine));
+    lngNumber = lngRead.value_or(lngNumber);
+    return lngRead.has_value();
+}
+
+/// The name without any quotes, which could not be written back; true when it stood between the two
+/// of a name in form.
+bool ReadName(std::string_view strLine, std::string& strName) {
+    const bool blnQuoted = strLine.starts_with('"') && strLine.ends_with('"');
+    strName = strLine;
+    return std::erase(strName, '"') == 2 && blnQuoted;
+}
+
+/// Takes what the lines of one level give; true when all of it was in form.
+bool ReadLevel(const Lines& lines, int intLevel, LevelEntries& entries) {
+    auto intLine = static_cast<std::size_t>(intLevel - 1) * intLinesPerLevel;
+    std::int32_t lngLevel = 0;
+    bool blnInForm =
+        intLine < lines.size() && ReadNumber(lines[intLine], lngLevel) && lngLevel == intLevel;
+    ++intLine;
+    for (HallOfFameEntry& entry : entries) {
+        if (intLine < lines.size())
+            blnInForm &= ReadName(lines[intLine], entry.strName);
+        ++intLine;
+        for (std::int32_t* const pNumber :
+             {&entry.lngHours, &entry.lngMinutes, &entry.lngSeconds}) {
+            blnInForm &= intLine < lines.size() && ReadNumber(lines[intLine], *pNumber);
+            ++intLine;
+        }
+    }
+    return blnInForm;
+}
+
+} // namespace
+
+HallOfFame MakeEmptyHallOfFame() {
+    HallOfFame hallOfFame;
+    for (LevelEntries& entries : hallOfFame)
+        entries.fill({std::string(strNoName), 99, 99, 99});
+    return hallOfFame;
+}
+
+bool ReadHallOfFameBytes(std::string_view bytes, HallOfFame& hallOfFame) {
+    const Lines lines = SplitLines(bytes);
+    bool blnInForm = bytes.ends_with('\n') && lines.size() == intLevelCount * intLinesPerLevel;
+    for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
+        blnInForm &= ReadLevel(lines, intLevel, hallOfFame[intLevel]);
+    return blnInForm;
+}
+
+std::string FormatHallOfFame(const HallOfFame& hallOfFame) {
+    std::string strBytes;
+    const auto AddLine = [&strBytes](const std::string& strLine) {
+        strBytes.append(strLine).append(strLineBreak);
+    };
+    for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel) {
+        AddLine(std::to_string(intLevel));
+        for (const HallOfFameEntry& entry : hallOfFame[intLevel]) {
+            AddLine('"' + entry.strName + '"');
+            for (const std::int32_t lngNumber :
+                 {entry.lngHours, entry.lngMinutes, entry.lngSeconds})
+                AddLine(std::to_string(lngNumber));
+        }
+    }
+    return strBytes;
+}
+
+bool ReadLevelBytes(std::string_view bytes, int intLevel, LevelEntries& entries) {
+    return ReadLevel(SplitLines(bytes), intLevel, entries);
+}
+
+} // namespace cellora

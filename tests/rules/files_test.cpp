@@ -1,0 +1,134 @@
+#include "tests/rules/player.h"
+
+#ifndef _WIN32
+
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <thread>
+
+#include "tests/support/faults.h"
+
+namespace cellora {
+namespace {
+
+/// The lists hold the entries of that many numbers, the last on top; all of them are equal in time.
+HallOfFame MakeList(int intLast) {
+    HallOfFame list = MakeEmptyHallOfFame();
+    for (int i = 1; i <= 10 && i <= intLast; ++i)
+        list[1][i] = {std::to_string(intLast + 1 - i), 0, 0, 0};
+    return list;
+}
+
+class SavingPlayer {
+public:
+    SavingPlayer() {
+        player.Play("puzzle");
+        player.Play("level Level 1");
+        player.Play("gamefile game.clp");
+    }
+
+    /// The bytes of the game in that state, which is put on the board.
+    std::string Format(int intState) {
+        for (Cell& cell : player.game.cells)
+            cell.strEntry = std::to_string(intState);
+        return FormatSavedGame(TakeGame(player.game));
+    }
+
+    bool Save(int intState) {
+        Format(intState);
+        return !WriteGameFile(player.game) &&
+               !SaveHallOfFameEntry(player.game, std::to_string(intState));
+    }
+
+    Player player;
+};
+
+TEST(KilledProgram, LeavesEveryFileOldOrNewAndTheNextOneGoesOn) {
+    SavingPlayer saving;
+    const TemporaryFolder& folder = saving.player.folder;
+    std::mt19937 random(413);
+    int intState = 0; // of the list, which is saved behind the game
+    for (int intKill = 0; intKill < 50; ++intKill) {
+        ChildProcess child([&](const auto& fnTell) {
+            for (int n = intState + 1; saving.Save(n); ++n)
+                fnTell();
+            return false;
+        });
+        ASSERT_TRUE(child.TakeStep()) << "the program does not go on after kill " << intKill;
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % 6000));
+        ASSERT_EQ(child.End(SIGKILL), -SIGKILL);
+        for (++intState; child.TakeStep();)
+            ++intState;
+        // The kill may have come upon the step after those that were told.
+        const std::string strList = folder.ReadBytes("hof.clh");
+        intState += strList == FormatHallOfFame(MakeList(intState + 1)) ? 1 : 0;
+        ASSERT_EQ(strList, FormatHallOfFame(MakeList(intState)));
+        const std::string strGame = folder.ReadBytes("game.clp");
+        ASSERT_TRUE(strGame == saving.Format(intState) || strGame == saving.Format(intState + 1));
+    }
+    std::filesystem::remove(folder.Path("hof.clh.lock"));
+    EXPECT_LE(folder.Count(), 2 + 50) << "no more than one file for each kill";
+}
+
+TEST(HallOfFame, LosesNoEntryOfTwoCopiesWritingAtOnce) {
+    Player player;
+    const auto Insert = [&player](int intCopy) {
+        for (int i = 0; i < 50; ++i) {
+            player.game.lngMinutes = i % 5;
+            player.game.statistics.lblLevel = "Level " + std::to_string(i / 5 + 1);
+            if (SaveHallOfFameEntry(player.game, std::to_string(intCopy)))
+                return false;
+        }
+        return true;
+    };
+    ChildProcess first([&](const auto&) { return Insert(1); });
+    ChildProcess second([&](const auto&) { return Insert(2); });
+    EXPECT_EQ(first.End(0), 0);
+    EXPECT_EQ(second.End(0), 0);
+    for (int intLevel = 1; intLevel <= 10; ++intLevel) {
+        LevelEntries entries;
+        ReadHallOfFame(player.game, intLevel, entries);
+        for (int i = 1; i <= 10; ++i)
+            EXPECT_EQ(entries[i].lngMinutes, (i - 1) / 2);
+    }
+    EXPECT_EQ(player.folder.Count(), 1);
+}
+
+TEST(HallOfFame, IsNotReplacedBeforeTheDamagedFileIsKept) {
+    Player player;
+    const std::string strDamaged(5000, 'x');
+    player.folder.WriteBytes("hof.clh", strDamaged);
+    const auto strReason =
+        WithFileSizeLimit(1000, [&player] { return SaveHallOfFameEntry(player.game, "Player"); });
+    EXPECT_EQ(strReason, "\"" + player.folder.Path("hof.clh.damaged") +
+                             "\" could not be written: File too large.");
+    EXPECT_EQ(player.folder.ReadBytes("hof.clh"), strDamaged);
+}
+
+TEST(Recovery, KeepsTheGamesOfNineCopies) {
+    const TemporaryFolder folder;
+    std::vector<std::unique_ptr<Recovery>> copies;
+    std::string strFiles;
+    for (int n = 0; n < 10; ++n) {
+        copies.push_back(std::make_unique<Recovery>(folder.Path()));
+        strFiles += std::filesystem::path(copies.back()->file()).stem().string() + ' ';
+    }
+    EXPECT_EQ(strFiles, "recovery recovery-2 recovery-3 recovery-4 recovery-5 recovery-6 "
+                        "recovery-7 recovery-8 recovery-9  ");
+    Player player;
+    player.Play("puzzle");
+    copies[9]->tmrRecovery_Timer(player.game);
+    copies[9]->OfferToRestore(player.game);
+    copies[9]->Remove();
+    copies[2]->tmrRecovery_Timer(player.game);
+    copies.clear();
+    EXPECT_EQ(Recovery(folder.Path()).file(), folder.Path("recovery-3.clp"))
+        << "a game that was left behind comes first";
+}
+
+} // namespace
+} // namespace cellora
+
+#endif

@@ -1,0 +1,69 @@
+#include "ui/dialogs/frmHelp.h"
+
+#include <cmath>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+
+#include "core/modCellora.h"
+#include "rules/start_up.h"
+#include "store/settings.h"
+#include "ui/desktop/look.h"
+#include "ui/desktop/pictures.h"
+#include "ui/desktop/version_info.h"
+#include "ui/dialogs/help_pages.h"
+
+namespace cellora {
+
+frmHelp::frmHelp(Game& game, QWidget* parent) : Form(game, GetProductName(), {8100, 5055}, parent) {
+    setObjectName(QStringLiteral("frmHelp"));
+    MakePicture();
+    QLabel* const lblWelcome = AddLabel(this, QStringLiteral("Label1"),
+                                        QStringLiteral("Welcome..."), 2160, 150, 5655, 495);
+    lblWelcome->setFont(MakeFont(18, Weight::Bold));
+    MakeTabs();
+
+    QPushButton* const cmdOK =
+        AddButton(this, QStringLiteral("cmdOK"), QStringLiteral("OK"), 120, 4200, 1815, 495);
+    cmdOK->setDefault(true);
+    cmdOK->setFocus();
+    connect(cmdOK, &QPushButton::clicked, this, &frmHelp::accept);
+
+    chkStartup_ = new QCheckBox(QStringLiteral("Show at startup"), this);
+    chkStartup_->setObjectName(QStringLiteral("chkStartup"));
+    // The wider gap of the style would leave the caption too little room.
+    chkStartup_->setStyleSheet(QStringLiteral("spacing: 2px"));
+    Place(chkStartup_, 6600, 4765, 1455, 255);
+    chkStartup_->setChecked(std::nearbyint(LoadSettings(GetSettingsFile(game)).dblStartup) == 1);
+}
+
+void frmHelp::ShowTab(int intIndex) {
+    tab_->setCurrentIndex(intIndex);
+}
+
+void frmHelp::done(int intResult) {
+    game().settings.dblStartup = chkStartup_->isChecked() ? 1 : 0;
+    SaveSettings(game().settings, SettingsGroup::Startup, GetSettingsFile(game()));
+    Form::done(intResult);
+}
+
+void frmHelp::MakePicture() {
+    QLabel* const picture = AddLabel(this, QStringLiteral("Picture1"), {}, 120, 240, 1785, 3825);
+    picture->setPixmap(
+        MakePixmap(QStringLiteral("instructions"), picture->size(), devicePixelRatioF()));
+}
+
+void frmHelp::MakeTabs() {
+    tab_ = new QTabWidget(this);
+    tab_->setObjectName(QStringLiteral("tab"));
+    tab_->setAccessibleName(QStringLiteral("Instructions"));
+    Place(tab_, 2160, 720, 5830, 3975);
+    tab_->addTab(MakeInstructionsPage(), QStringLiteral("Instructions"));
+    tab_->addTab(MakeControlsPage(), QStringLiteral("Controls"));
+    tab_->addTab(MakeMenusPage(), QStringLiteral("Menus"));
+    tab_->addTab(MakeHistoryPage(), QStringLiteral("History"));
+}
+
+} // namespace cellora

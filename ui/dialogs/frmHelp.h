@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ui/dialogs/form.h"
+
+class QCheckBox;
+class QTabWidget;
+
+namespace cellora {
+
+/// The Instructions window: four pages of help, and whether it opens at every start.
+class frmHelp final : public Form {
+    Q_OBJECT
+
+public:
+    frmHelp(Game& game, QWidget* parent);
+
+    /// Turns to a page: 0 Instructions, 1 Controls, 2 Menus, 3 History. It opens on page 0.
+    void ShowTab(int intIndex);
+
+    /// Every way of closing ends here, and the start-up choice is written.
+    void done(int intResult) override;
+
+private:
+    void MakePicture();
+    void MakeTabs();
+
+    QTabWidget* tab_ = nullptr;
+    QCheckBox* chkStartup_ = nullptr;
+};
+
+} // namespace cellora

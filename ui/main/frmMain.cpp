@@ -1,0 +1,293 @@
+#include "ui/main/frmMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QSessionManager>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "core/modCellora.h"
+#include "rules/clock.h"
+#include "rules/cursor.h"
+#include "rules/entry.h"
+#include "rules/game_file.h"
+#include "rules/notes.h"
+#include "rules/recovery.h"
+#include "rules/selector.h"
+#include "rules/start_up.h"
+#include "rules/view.h"
+#include "ui/board/board_accessible.h"
+#include "ui/board/board_view.h"
+#include "ui/desktop/keys.h"
+#include "ui/desktop/look.h"
+#include "ui/desktop/pictures.h"
+#include "ui/desktop/qt_desktop.h"
+#include "ui/desktop/twips.h"
+#include "ui/desktop/version_info.h"
+#include "ui/main/cell_popup.h"
+#include "ui/main/commands.h"
+#include "ui/main/layout_pass.h"
+#include "ui/main/number_selector.h"
+#include "ui/main/print.h"
+#include "ui/main/statistics_pane.h"
+#include "ui/main/window_layout.h"
+
+namespace cellora {
+
+frmMain::frmMain(Game& game, QtDesktop& desktop, Recovery& recovery)
+    : game_(game), desktop_(desktop), recovery_(recovery) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(GetProductName());
+    SetProgramIcon(*this);
+    LoadMainWindow(game_);
+    commandBars_ = std::make_unique<CommandBars>(*this);
+    MakeClient();
+    MakePopups();
+    ConnectDesktop();
+    announcer_ = std::make_unique<BoardAnnouncer>(*picGrid_);
+    Update();
+}
+
+frmMain::~frmMain() {
+    desktop_.Detach();
+    // The view goes before the scene it shows.
+    delete picGrid_;
+}
+
+void frmMain::MakeClient() {
+    client_ = new QWidget(this);
+    client_->setObjectName(QStringLiteral("client"));
+    SetBackColor(*client_, lngColorWhite);
+    setCentralWidget(client_);
+    auto* const picMenuShadow = new QWidget(client_);
+    picMenuShadow->setObjectName(QStringLiteral("picMenuShadow"));
+    SetBackColor(*picMenuShadow, lngColorButtonShadow);
+    QToolBar* const tbrMain = commandBars_->MakeToolbar(client_);
+    MakeBorder();
+    auto* const sbrMain = new QStatusBar(this);
+    sbrMain->setObjectName(QStringLiteral("sbrMain"));
+    sbrMain->setFixedHeight(ToPixels(dblStatusBarHeight));
+    setStatusBar(sbrMain);
+    const WindowLayout::Elements elements{client_,  picMenuShadow, tbrMain,       picBorder_,
+                                          picGrid_, picButtons_,   picStatistics_};
+    windowLayout_ = std::make_unique<WindowLayout>(*this, game_, elements, [this] { Update(); });
+    client_->installEventFilter(this); // its resizing is the layout's
+}
+
+void frmMain::MakeBorder() {
+    picBorder_ = new QWidget(client_);
+    picBorder_->setObjectName(QStringLiteral("picBorder"));
+    picBorder_->installEventFilter(this);
+    picStatistics_ = new StatisticsPane(picBorder_);
+    picButtons_ = new NumberSelector(picBorder_);
+    connect(picButtons_, &NumberSelector::numberReleased, this,
+            [this](int intNumber, bool blnRightButton, QPoint position) {
+                popupPosition_ = position;
+                Do([&](Game& game) { picButton_MouseUp(game, intNumber, blnRightButton); });
+            });
+    MakeGrid();
+}
+
+void frmMain::MakeGrid() {
+    picGrid_ = new BoardView(scene_, picBorder_);
+    picGrid_->hide();
+    connect(picGrid_, &BoardView::cellReleased, this,
+            [this](int intCell, MouseButton button, QPoint position) {
+                popupPosition_ = position;
+                Do([&](Game& game) { CellClick(game, intCell, button); });
+                FocusGrid();
+            });
+    connect(picGrid_, &BoardView::keyPressed, this, [this](std::int16_t intKeyCode) {
+        Do([&](Game& game) { DoKeyDown(game, intKeyCode); });
+    });
+    connect(picGrid_, &BoardView::popupRequested, this, [this](QPoint position) {
+        popupPosition_ = position;
+        Do([](Game& game) { CellClick(game, game.intCursorCell, MouseButton::Right); });
+    });
+    connect(picGrid_, &BoardView::cursorRequested, this, [this](int intCell) {
+        Do([&](Game& game) { MoveCursor(game, intCell); });
+        FocusGrid();
+    });
+}
+
+void frmMain::MakePopups() {
+    mnuRightClick_ = new CellPopup(this);
+    connect(mnuRightClick_, &CellPopup::digitChosen, this,
+            [this](int intDigit) { Do([&](Game& game) { mnuC_Click(game, intDigit); }); });
+    connect(mnuRightClick_, &CellPopup::removeAllChosen, this, [this] { Do(mnuRemoveAll_Click); });
+    mnuButton_ = new QMenu(this);
+    mnuButton_->setObjectName(QStringLiteral("mnuButton"));
+    mnuButton_->setAccessibleName(QStringLiteral("Number"));
+    mnuHighlight_ = mnuButton_->addAction(QStringLiteral("Highlight"), this,
+                                          [this] { Do(mnuHighlight_Click); });
+    mnuHighlight_->setCheckable(true);
+}
+
+void frmMain::ConnectDesktop() {
+    desktop_.Attach(game_, this, [this] { Update(); });
+    connect(&desktop_, &QtDesktop::tick, this, &frmMain::OnTick);
+    connect(&desktop_, &QtDesktop::popupWanted, this, &frmMain::OpenPopup);
+    // The desktop waits for the answer.
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &frmMain::EndSession,
+            Qt::DirectConnection);
+}
+
+void frmMain::OnTick(Timer timer) {
+    switch (timer) {
+    case Timer::tmr:
+        recovery_.CountTick(game_);
+        return Do(tmr_Timer);
+    case Timer::tmrCellWait:
+        return Do(tmrCellWait_Timer);
+    case Timer::tmrCell:
+        return Do(tmrCell_Timer);
+    case Timer::tmrRecovery:
+        return recovery_.tmrRecovery_Timer(game_);
+    }
+}
+
+void frmMain::OpenPopup(PopupMenu menu) {
+    const View view = MakeView(game_);
+    if (menu == PopupMenu::mnuRightClick) {
+        mnuRightClick_->Build(view.mnuRightClick);
+        mnuRightClick_->popup(popupPosition_);
+        return;
+    }
+    mnuHighlight_->setEnabled(view.mnuHighlight.blnEnabled);
+    mnuHighlight_->setChecked(view.mnuHighlight.blnChecked);
+    mnuButton_->popup(popupPosition_);
+}
+
+void frmMain::Do(const std::function<void(Game&)>& fnCommand) {
+    fnCommand(game_);
+    Update();
+}
+
+void frmMain::Update() {
+    Mirror();
+    recovery_.Observe(game_);
+}
+
+void frmMain::Mirror() {
+    const View view = MakeView(game_);
+    const bool blnGridThere = picGrid_->isVisible() && picGrid_->isEnabled();
+    picGrid_->Mirror(view);
+    if (!blnGridThere)
+        FocusGrid(); // the window may be active already
+    picButtons_->Mirror(view);
+    picStatistics_->Mirror(view);
+    commandBars_->Mirror(view);
+    SetBackColor(*picBorder_, view.lngBorderBackColor);
+    statusBar()->setVisible(view.blnStatusBarVisible);
+    if (QAccessible::isActive())
+        announcer_->Announce();
+}
+
+void frmMain::mnuPrint_Click() {
+    PrintGame(desktop_, scene_, this);
+    Update();
+}
+
+void frmMain::mnuExit_Click() {
+    close();
+}
+
+void frmMain::mnuTopTen_Click() {
+    desktop_.ShowModal(ModalWindow::frmTopTen);
+}
+
+void frmMain::mnuContents_Click() {
+    constexpr int intControlsTab = 1;
+    desktop_.ShowInstructions(intControlsTab);
+}
+
+void frmMain::mnuAbout_Click() {
+    desktop_.ShowModal(ModalWindow::frmAbout);
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (!isEnabled()) { // under the splash
+        event->ignore();
+        return;
+    }
+    if (!Leave()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    QCoreApplication::exit();
+}
+
+bool frmMain::Leave() {
+    const bool blnLeave = MayClose(game_);
+    Update();
+    if (!blnLeave)
+        return false;
+    UnloadMainWindow(game_);
+    recovery_.Remove();
+    return true;
+}
+
+void frmMain::EndSession(QSessionManager& manager) {
+    if (!isEnabled())
+        return;
+    if (!manager.allowsInteraction()) {
+        // The recovery file keeps what cannot be asked about.
+        UnloadMainWindow(game_);
+        return;
+    }
+    if (Leave())
+        game_.blnGameChanged = false; // The closing that follows must not ask again.
+    else
+        manager.cancel();
+}
+
+void frmMain::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        Form_Activate();
+}
+
+void frmMain::Form_Activate() {
+    desktop_.SetMousePointer(MousePointer::Default);
+    FocusGrid();
+}
+
+void frmMain::FocusGrid() {
+    if (picGrid_->isVisible() && picGrid_->isEnabled())
+        picGrid_->setFocus(Qt::OtherFocusReason);
+}
+
+void frmMain::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    // Menus take the keyboard here while they are used.
+    if (!menuBar()->hasFocus() && QApplication::activePopupWidget() == nullptr)
+        FocusGrid();
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == client_ && event->type() == QEvent::Resize)
+        windowLayout_->Form_Resize();
+    // A click beside the grid leaves the keyboard with the grid.
+    if (watched == picBorder_ && event->type() == QEvent::MouseButtonPress)
+        FocusGrid();
+    if (watched == picBorder_ && event->type() == QEvent::KeyPress)
+        return picBorder_KeyDown(*static_cast<QKeyEvent*>(event));
+    return QMainWindow::eventFilter(watched, event);
+}
+
+bool frmMain::picBorder_KeyDown(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
+        return false;
+    if (IsPopupKey(event)) {
+        picGrid_->RequestPopup();
+        return true;
+    }
+    const std::int16_t intKeyCode = GetVirtualKey(event);
+    Do([&](Game& game) { DoKeyDown(game, intKeyCode); });
+    return true;
+}
+
+} // namespace cellora

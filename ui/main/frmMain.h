@@ -1,0 +1,102 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QMainWindow>
+
+#include "ui/board/board_scene.h"
+
+class QSessionManager;
+
+namespace cellora {
+
+class BoardAnnouncer;
+class BoardView;
+class CellPopup;
+class CommandBars;
+class NumberSelector;
+class QtDesktop;
+class Recovery;
+class StatisticsPane;
+class WindowLayout;
+enum class PopupMenu;
+enum class Timer;
+struct Game;
+
+/// The main window. It shows what the game says and reports what the player does; after every event
+/// it mirrors the game into its elements in one pass.
+class frmMain final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// Loads the settings into the game and builds the window around it. All three outlive the
+    /// window.
+    frmMain(Game& game, QtDesktop& desktop, Recovery& recovery);
+    ~frmMain() override;
+
+    /// What follows every event, and comes before every box and modal window: mirrors the game and
+    /// lets the recovery see it.
+    void Update();
+
+    /// Runs a command of the rules and shows what it did.
+    void Do(const std::function<void(Game&)>& fnCommand);
+
+    WindowLayout& windowLayout() { return *windowLayout_; }
+
+    // The commands that are the window's own.
+    void mnuPrint_Click();
+    void mnuExit_Click();
+    void mnuTopTen_Click();
+    void mnuContents_Click();
+    void mnuAbout_Click();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// Copies what the game looks like into the window's elements. What has not changed is not
+    /// drawn again.
+    void Mirror();
+
+    // Construction.
+    void MakeClient();
+    void MakeBorder();
+    void MakeGrid();
+    void MakePopups();
+    void ConnectDesktop();
+
+    /// The end of the program, if the player agrees.
+    bool Leave();
+    /// The same when the desktop's session ends, which the player may thereby stop.
+    void EndSession(QSessionManager& manager);
+
+    /// Whether the key was used up; keys that move the keyboard's focus are not.
+    bool picBorder_KeyDown(const QKeyEvent& event);
+    void Form_Activate();
+    void FocusGrid();
+    void OnTick(Timer timer);
+    void OpenPopup(PopupMenu menu);
+
+    Game& game_;
+    QtDesktop& desktop_;
+    Recovery& recovery_;
+    BoardScene scene_;
+    QWidget* client_ = nullptr;
+    QWidget* picBorder_ = nullptr;
+    BoardView* picGrid_ = nullptr;
+    NumberSelector* picButtons_ = nullptr;
+    StatisticsPane* picStatistics_ = nullptr;
+    CellPopup* mnuRightClick_ = nullptr;
+    QMenu* mnuButton_ = nullptr;
+    QAction* mnuHighlight_ = nullptr;
+    QPoint popupPosition_; ///< on the screen, where the player asked for a menu last
+    std::unique_ptr<CommandBars> commandBars_;
+    std::unique_ptr<WindowLayout> windowLayout_;
+    std::unique_ptr<BoardAnnouncer> announcer_;
+};
+
+} // namespace cellora

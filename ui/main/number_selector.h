@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QAbstractButton>
+
+#include "core/modCommon_Constants.h"
+#include "core/numbered.h"
+
+namespace cellora {
+
+struct NumberButtonView;
+struct View;
+
+/// `picButton(n)`: a digit 1 to 9 or 10, the eraser. With the frame that the view gives
+/// it, and another picture when its digit is complete.
+class NumberSelectorButton final : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    NumberSelectorButton(int intNumber, QWidget* parent);
+
+    void Mirror(const NumberButtonView& button);
+
+signals:
+    /// A release over the button, or its press by keyboard; the position is on the screen.
+    void released(bool blnRightButton, QPoint globalPosition);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void nextCheckState() override;
+
+private:
+    QString GetPictureName() const;
+    QPoint GetPopupPosition() const;
+
+    int intNumber_;
+    bool blnFramed_ = false;
+    bool blnShaded_ = false;
+};
+
+/// `picButtons`: the row of ten number buttons.
+class NumberSelector final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit NumberSelector(QWidget* parent);
+
+    /// Buttons, background, enabling and visibility.
+    void Mirror(const View& view);
+
+signals:
+    /// A button 1 to 10 was released; the position is on the screen.
+    void numberReleased(int intNumber, bool blnRightButton, QPoint globalPosition);
+
+private:
+    Numbered<NumberSelectorButton*, intEraser> picButton_;
+};
+
+} // namespace cellora
