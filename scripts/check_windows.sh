@@ -50,14 +50,6 @@ build_all() {
     build release --target cellora
 }
 
-start_screen() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" 2>/dev/null &
-    until_true "a screen" test -s "$work/display"
-    DISPLAY=:$(<"$work/display")
-    export DISPLAY
-    prepare_desktop
-}
-
 # A Windows with the fonts of pixels that a real one has and with smooth texts.
 start_windows() {
     export WINEPREFIX=$work/prefix WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=

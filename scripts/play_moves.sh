@@ -4,9 +4,16 @@
 
 readonly patience=30 # seconds for whatever has to appear
 
-# A German keyboard: names have umlauts, and Shift makes other signs of the row of digits.
-prepare_desktop() {
+# start_screen: a screen with a window manager and a German keyboard: names have umlauts, and Shift
+# makes other signs of the row of digits. Sets DISPLAY. A server that may reset itself when its last
+# program goes, as setxkbmap does at once, throws out the window manager that is just coming.
+start_screen() {
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>/dev/null &
+    until_true "a screen" test -s "$work/display"
+    DISPLAY=:$(<"$work/display")
+    export DISPLAY
     openbox >/dev/null 2>&1 &
+    until_true "the window manager" xdotool get_desktop
     setxkbmap de
 }
 
