@@ -25,7 +25,7 @@ BoardView::BoardView(BoardScene& scene, QWidget* parent)
     setViewportUpdateMode(MinimalViewportUpdate);
     setOptimizationFlags(DontSavePainterState | DontAdjustForAntialiasing);
     setInteractive(false);
-    scale(1.0 / intTwipsPerPixel, 1.0 / intTwipsPerPixel);
+    SetZoom(1.0);
 }
 
 void BoardView::Mirror(const View& view) {
@@ -35,6 +35,11 @@ void BoardView::Mirror(const View& view) {
     SetPointer(view.grid.intPointer);
     if (isVisibleTo(parentWidget()) != view.picGrid.blnVisible)
         setVisible(view.picGrid.blnVisible);
+}
+
+void BoardView::SetZoom(double dblZoom) {
+    const double dblScale = dblZoom / intTwipsPerPixel;
+    setTransform(QTransform::fromScale(dblScale, dblScale));
 }
 
 const GridView& BoardView::grid() const {

@@ -25,6 +25,10 @@ public:
     /// says.
     void Mirror(const View& view);
 
+    /// Shows the board larger or smaller than its true size of 1.0. The view's own size is its
+    /// owner's.
+    void SetZoom(double dblZoom);
+
     /// What was mirrored last.
     const GridView& grid() const;
 
