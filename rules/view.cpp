@@ -2,6 +2,7 @@
 
 #include "core/modCellora.h"
 #include "rules/clock.h"
+#include "rules/contrast.h"
 #include "rules/notes.h"
 #include "rules/selector.h"
 
@@ -39,28 +40,11 @@ constexpr Tick aTicks[] = {
     {&View::mnuCellErrors, &Settings::blnCellErrors},
 };
 
-// Colour helpers: they change what is drawn, never the colours the player chose.
-
-void ApplyRegionColor(View& view, Color lngColor) {
-    view.grid.lngRegionFill = lngColor;
-}
-
-void ApplyGridLineColor(View& view, Color lngColor) {
-    view.grid.lngLineColor = lngColor;
-    for (CellView& cell : view.grid.cells)
-        cell.lngOutlineColor = lngColor;
-}
-
-void ApplyUserFontColor(View& view, Color lngColor) {
-    for (CellView& cell : view.grid.cells) {
-        cell.lblCell.lngForeColor = lngColor;
-        cell.lblCandidate.lngForeColor = lngColor;
-    }
-}
-
-void ApplyComputerFontColor(View& view, Color lngColor) {
-    for (CellView& cell : view.grid.cells)
-        cell.lblSolution.lngForeColor = lngColor;
+void SetCellColors(CellView& cell, Color lngUser, Color lngComputer, Color lngLine) {
+    cell.lblCell.lngForeColor = lngUser;
+    cell.lblCandidate.lngForeColor = lngUser;
+    cell.lblSolution.lngForeColor = lngComputer;
+    cell.lngOutlineColor = lngLine;
 }
 
 void ShowCell(CellView& view, const Cell& cell, const Game& game) {
@@ -80,22 +64,35 @@ void ShowCell(CellView& view, const Cell& cell, const Game& game) {
         view.lngOutlineColor = game.settings.colors[lngColorGridCursor];
 }
 
-void ShowColors(View& view, const Game& game) {
-    const Colors& colors = game.settings.colors;
+void ShowBackColors(View& view, const Colors& colors) {
     view.picGrid.lngBackColor = colors[lngColorGridBackground];
     view.picStatistics.lngBackColor = colors[lngColorGridBackground];
     view.picButtons.lngBackColor = colors[lngColorScreenBackground];
     view.lngBorderBackColor = colors[lngColorScreenBackground];
-    ApplyRegionColor(view, colors[lngColorGridX]);
-    const bool blnPaused = game.phase == Phase::Paused;
-    const auto Choose = [&](Color lngColor) {
-        return blnPaused ? lngColorInactiveCaptionText : lngColor;
-    };
-    ApplyGridLineColor(view, Choose(colors[lngColorGridLines]));
-    ApplyUserFontColor(view, Choose(colors[lngColorFontUser]));
-    ApplyComputerFontColor(view, Choose(colors[lngColorFontComputer]));
-    view.statistics.lngFrameColor = Choose(lngColorWindowText);
-    view.statistics.lngTextColor = Choose(lngColorButtonText);
+    view.grid.lngRegionFill = colors[lngColorGridX];
+}
+
+void ShowColors(View& view, const Colors& colors) {
+    const Color lngInk = ChooseInk(colors[lngColorGridBackground]);
+    view.statistics.lngFrameColor = lngInk;
+    view.statistics.lngTextColor = lngInk;
+    view.grid.lngLineColor = colors[lngColorGridLines];
+    for (CellView& cell : view.grid.cells)
+        SetCellColors(cell, colors[lngColorFontUser], colors[lngColorFontComputer],
+                      colors[lngColorGridLines]);
+}
+
+/// A paused board cannot be studied: everything on it takes a colour close to what lies behind it.
+void ConcealColors(View& view, const Colors& colors) {
+    const Color lngConcealed = Conceal(colors[lngColorGridBackground]);
+    view.statistics.lngFrameColor = lngConcealed;
+    view.statistics.lngTextColor = lngConcealed;
+    view.grid.lngLineColor = lngConcealed;
+    const Color lngOnX = Conceal(colors[lngColorGridX]);
+    for (int i = 1; i <= intCellCount; ++i) {
+        const Color lngColor = IsFilledRegion(GetRegion(i)) ? lngOnX : lngConcealed;
+        SetCellColors(view.grid.cells[i], lngColor, lngColor, lngColor);
+    }
 }
 
 void ShowGrid(View& view, const Game& game) {
@@ -124,11 +121,13 @@ void ShowPanes(View& view, const Game& game) {
 }
 
 void ShowNumberButtons(View& view, const Game& game) {
+    const Color lngFrameColor = ChooseInk(game.settings.colors[lngColorScreenBackground]);
     for (int n = 1; n <= intEraser; ++n) {
         NumberButtonView& button = view.picButton[n];
         button.blnFramed = game.traces.blnFramed[n];
         button.blnShaded = n != intEraser && game.traces.blnShaded[n];
         button.blnSelected = game.intSelectedNumber == n;
+        button.lngFrameColor = lngFrameColor;
     }
 }
 
@@ -149,7 +148,9 @@ void ShowMenus(View& view, const Game& game) {
 View MakeView(const Game& game) {
     View view;
     ShowPanes(view, game);
-    ShowColors(view, game);
+    const Colors& colors = game.settings.colors;
+    ShowBackColors(view, colors);
+    game.phase == Phase::Paused ? ConcealColors(view, colors) : ShowColors(view, colors);
     ShowGrid(view, game); // the cursor's colour goes over that of the lines
     ShowNumberButtons(view, game);
     static_cast<Statistics&>(view.statistics) = game.statistics;

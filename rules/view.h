@@ -34,10 +34,15 @@ struct CellView {
     bool operator==(const CellView&) const = default;
 };
 
+/// Regions 0, 2, 4, 6 and 8 form an X.
+constexpr bool IsFilledRegion(int intRegion) {
+    return intRegion % 2 == 0;
+}
+
 struct GridView {
-    bool blnPaused = false; ///< nothing of the game may be read, by eye or by ear
-    Color lngRegionFill = lngColorWhite;
-    Color lngLineColor = lngColorBlack; ///< of the regions and the border
+    bool blnPaused = false;              ///< nothing of the game may be read, by eye or by ear
+    Color lngRegionFill = lngColorWhite; ///< of the regions that form an X
+    Color lngLineColor = lngColorBlack;  ///< of the regions and the border
     Numbered<CellView, intCellCount> cells;
     int intTopOutline = 0; ///< the cell whose outline lies in front of the digits, 0 for none
     int intCursorCell = intCenterCell;
@@ -55,10 +60,11 @@ struct NumberButtonView {
     bool blnFramed = false;
     bool blnShaded = false; ///< the digit is complete; never set for the eraser
     bool blnSelected = false;
+    Color lngFrameColor = lngColorBlack; ///< seen on the row's background
 };
 
 struct StatisticsView : Statistics {
-    Color lngFrameColor = lngColorWindowText;
+    Color lngFrameColor = lngColorWindowText; ///< these two are read on the pane's background
     Color lngTextColor = lngColorButtonText;
     std::string lblTime; ///< hh:mm:ss
 };

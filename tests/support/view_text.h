@@ -83,8 +83,10 @@ inline std::vector<std::string> Describe(const View& view) {
         lines.back() += ' ' + Describe(cell);
         colors.insert(Text("; ", cell.lblSolution.lngForeColor, " given, ",
                            cell.lblCell.lngForeColor, " entered, ", cell.lblCandidate.lngForeColor,
-                           " noted"));
-        if (cell.intOutlineWidth != 1 || cell.lngOutlineColor != grid.lngLineColor)
+                           " noted",
+                           grid.blnPaused ? Text(", ", cell.lngOutlineColor, " outlined") : ""));
+        if (cell.intOutlineWidth != 1 ||
+            (!grid.blnPaused && cell.lngOutlineColor != grid.lngLineColor))
             strOutlines += Text(' ', i, '/', cell.intOutlineWidth, '/', cell.lngOutlineColor);
     }
     lines.push_back(Text("outlines:", strOutlines, ", top ", grid.intTopOutline, ", cursor ",
@@ -92,7 +94,7 @@ inline std::vector<std::string> Describe(const View& view) {
     lines.push_back(Text("colours: ", view.picGrid.lngBackColor, ' ', view.picButtons.lngBackColor,
                          ' ', view.picStatistics.lngBackColor, ' ', view.lngBorderBackColor, ' ',
                          grid.lngRegionFill, ' ', grid.lngLineColor, ' ', statistics.lngFrameColor,
-                         ' ', statistics.lngTextColor));
+                         ' ', statistics.lngTextColor, ' ', view.picButton[1].lngFrameColor));
     for (const std::string& strColor : colors)
         lines.back() += strColor;
     lines.emplace_back("buttons:");

@@ -24,11 +24,6 @@ void Stack(QGraphicsItem& item, Layer layer) {
     item.setZValue(static_cast<qreal>(layer));
 }
 
-/// Regions 0, 2, 4, 6 and 8 form an X.
-bool IsFilledRegion(int k) {
-    return k % 2 == 0;
-}
-
 QRectF GetRegionRect(int k) {
     const int intRow = k / 3;
     const int intColumn = k % 3;

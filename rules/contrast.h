@@ -1,0 +1,19 @@
+#pragma once
+
+#include "core/modCommon_Constants.h"
+
+/// How well colours can be told apart, as the eye sees them.
+namespace cellora {
+
+/// From 1 for two equally bright colours to 21 for black and white; which of them lies behind makes
+/// no difference. A text reads well from 4.5 on, a line or mark is seen from 3 on.
+double GetContrast(Color lngColor, Color lngBehind);
+
+/// Black or white: the one that reads on that colour, at 4.5 or more on any.
+Color ChooseInk(Color lngBehind);
+
+/// The inactive caption text's colour, or as much of it as can hardly be told from what lies
+/// behind: their contrast is 1.2 at most.
+Color Conceal(Color lngBehind);
+
+} // namespace cellora
