@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "store/program_folder.h"
+#include "store/system_files.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/text.h"
 #include "ui/desktop/version_info.h"
@@ -27,7 +28,9 @@ int main(int argc, char** argv) {
     const std::string strExecutableFolder = cellora::ToPath(QApplication::applicationDirPath());
     cellora::Program program(
         [strExecutableFolder] {
-            return cellora::GetProgramFolder(strExecutableFolder, cellora::GetUserDataFolder());
+            cellora::SystemFiles files;
+            return cellora::GetProgramFolder(files, strExecutableFolder,
+                                             cellora::GetUserDataFolder());
         },
         DrawRandomState());
     program.Main();

@@ -6,6 +6,7 @@
 #include "rules/game_file.h"
 #include "rules/hall_of_fame.h"
 #include "rules/new_game.h"
+#include "store/system_files.h"
 #include "tests/support/idle_desktop.h"
 #include "tests/support/temporary_folder.h"
 
@@ -36,7 +37,8 @@ struct FilesBench {
 
     TemporaryFolder folder;
     IdleDesktop desktop;
-    Game game{desktop};
+    SystemFiles files;
+    Game game{desktop, files};
 };
 
 void BM_SaveGame(benchmark::State& state) {

@@ -5,6 +5,7 @@
 #include "core/modCellora.h"
 #include "core/modCreateSudoku.h"
 #include "rules/check.h"
+#include "store/system_files.h"
 #include "tests/support/idle_desktop.h"
 
 namespace cellora {
@@ -12,7 +13,8 @@ namespace {
 
 void BM_CreateSolution(benchmark::State& state) {
     IdleDesktop desktop;
-    Game game(desktop);
+    SystemFiles files;
+    Game game(desktop, files);
     for ([[maybe_unused]] auto _ : state) {
         CreateSolution(game);
         benchmark::DoNotOptimize(game);
@@ -22,7 +24,8 @@ BENCHMARK(BM_CreateSolution);
 
 void BM_CreateSolutionLiteral(benchmark::State& state) {
     IdleDesktop desktop;
-    Game game(desktop);
+    SystemFiles files;
+    Game game(desktop, files);
     LiteralGenerator literal(game);
     for ([[maybe_unused]] auto _ : state) {
         literal.CreateSolution();
@@ -34,7 +37,8 @@ BENCHMARK(BM_CreateSolutionLiteral);
 /// About half the cells are clues or filled, some of them wrong, and errors are shown.
 void BM_PerformCellCheck(benchmark::State& state) {
     IdleDesktop desktop;
-    Game game(desktop);
+    SystemFiles files;
+    Game game(desktop, files);
     CreateSolution(game);
     ShowPartial(game, GetLevelName(20));
     for (int i = 1; i <= intCellCount; i += 5) {

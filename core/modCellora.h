@@ -13,6 +13,7 @@
 namespace cellora {
 
 class Desktop;
+class FilePort;
 
 enum class Phase {
     None, ///< no puzzle is on the board yet
@@ -33,7 +34,8 @@ struct Traces {
 };
 
 struct Game {
-    explicit Game(Desktop& desktopOfProgram) : desktop(desktopOfProgram) {}
+    Game(Desktop& desktopOfProgram, FilePort& filesOfProgram)
+        : desktop(desktopOfProgram), files(filesOfProgram) {}
 
     bool blnGameActive() const { return phase != Phase::None; }
 
@@ -41,6 +43,7 @@ struct Game {
     bool IsInPlay() const { return phase == Phase::Playing || phase == Phase::Paused; }
 
     Desktop& desktop;
+    FilePort& files;
 
     // Chosen before play: where the program's files live, where random numbers begin, and what the
     // settings file holds.

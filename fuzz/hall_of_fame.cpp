@@ -8,6 +8,7 @@
 #include "core/modCellora.h"
 #include "fuzz/fuzzing.h"
 #include "store/modCommon_File.h"
+#include "store/system_files.h"
 #include "tests/support/idle_desktop.h"
 #include "tests/support/temporary_folder.h"
 
@@ -33,7 +34,7 @@ void TryRewrite(Game& game, const TemporaryFolder& folder, std::string_view byte
     const auto HasSameCount = [&](char character) {
         return std::ranges::count(bytes, character) == std::ranges::count(strWritten, character);
     };
-    if (FileExists(folder.Path(strDamagedName)))
+    if (FileExists(game.files, folder.Path(strDamagedName)))
         Require(folder.ReadBytes(strDamagedName) == bytes, "a damaged file is kept as it was");
     else
         Require(HasSameCount('\n') && HasSameCount('"'), "a file that is not kept was in form");
@@ -44,13 +45,14 @@ void TryRewrite(Game& game, const TemporaryFolder& folder, std::string_view byte
 void TryInput(std::string_view bytes) {
     static const TemporaryFolder folder;
     folder.WriteBytes(strFileName, bytes);
-    RemoveFile(folder.Path(strDamagedName));
     // The levels and the time come from the input as well, without a place in the file for them.
     const std::size_t lngChoice = std::hash<std::string_view>{}(bytes);
     const int intWatched = static_cast<int>(lngChoice % intLevelCount) + 1;
     const int intLevel = static_cast<int>((lngChoice >> (lngChoice >> 63U)) % intLevelCount) + 1;
     IdleDesktop desktop;
-    Game game(desktop);
+    SystemFiles files;
+    files.Remove(folder.Path(strDamagedName));
+    Game game(desktop, files);
     game.strProgramFolder = folder.Path();
     game.lngSeconds = static_cast<std::int32_t>(lngChoice >> 16U);
     HallOfFameEntry moved{"A player", 0, 0, game.lngSeconds};

@@ -2,8 +2,8 @@
 
 #include "core/modCellora.h"
 #include "rules/game_file.h"
-#include "store/replace_file.h"
 #include "store/saved_game.h"
+#include "store/system_files.h"
 #include "tests/support/idle_desktop.h"
 #include "tests/support/temporary_folder.h"
 
@@ -21,7 +21,8 @@ void TryInput(std::string_view bytes) {
     const auto savedGame = ParseSavedGame(bytes);
     IdleDesktop desktop;
     desktop.strPickedFile = folder.WriteBytes(strFileName, bytes);
-    Game game(desktop);
+    SystemFiles files;
+    Game game(desktop, files);
     game.strProgramFolder = folder.Path();
     if (savedGame) {
         Require(ParseSavedGame(FormatSavedGame(*savedGame)) == savedGame,
@@ -40,8 +41,8 @@ void TryInput(std::string_view bytes) {
     }
     const SavedGame opened = TakeGame(game);
     Require(!WriteGameFile(game), "the opened game can be saved");
-    const auto strSaved = ReadWholeFile(game.strGameFile, lngMaxSavedGameBytes);
-    Require(strSaved && ParseSavedGame(*strSaved) == opened, "the saved game reads back the same");
+    Require(ParseSavedGame(folder.ReadBytes(strFileName)) == opened,
+            "the saved game reads back the same");
 }
 
 } // namespace cellora

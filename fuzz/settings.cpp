@@ -7,6 +7,7 @@
 #include "core/settings.h"
 #include "fuzz/fuzzing.h"
 #include "store/modCommon_INI.h"
+#include "store/system_files.h"
 #include "tests/support/temporary_folder.h"
 
 /// Settings that are read are written and read again the same; a write leaves the other settings
@@ -32,11 +33,11 @@ constexpr Key aKeys[] = {
 };
 
 /// The values that other groups write, one after the other.
-std::string ReadOthers(SettingsGroup group, const std::string& strPath) {
+std::string ReadOthers(FilePort& files, SettingsGroup group, const std::string& strPath) {
     std::string strValues;
     for (const Key& key : aKeys)
         if (key.group != group)
-            strValues += ReadINI(key.strSection, key.strKey, strPath) + '\n';
+            strValues += ReadINI(files, key.strSection, key.strKey, strPath) + '\n';
     return strValues;
 }
 
@@ -61,6 +62,7 @@ bool IsReadBack(const std::string& strRead, const std::string& strWritten) {
 
 void TryInput(std::string_view bytes) {
     static const TemporaryFolder folder;
+    SystemFiles files;
     const std::string strPath = folder.WriteBytes(strFileName, bytes);
     // The key and the value come from the input as well, without a place in the file for them.
     const std::size_t lngChoice = std::hash<std::string_view>{}(bytes);
@@ -69,17 +71,17 @@ void TryInput(std::string_view bytes) {
     // A piece of the file without a line break makes a value as good as any.
     std::string strValue(bytes.substr(bytes.empty() ? 0 : (lngChoice >> 16U) % bytes.size()));
     strValue.resize(std::min(strValue.find_first_of("\r\n"), strValue.size()));
-    WriteINI(key.strSection, key.strKey, strValue, strPath);
+    WriteINI(files, key.strSection, key.strKey, strValue, strPath);
     const std::string strWritten = folder.ReadBytes(strFileName);
-    Require(IsReadBack(ReadINI(key.strSection, key.strKey, strPath), strValue),
+    Require(IsReadBack(ReadINI(files, key.strSection, key.strKey, strPath), strValue),
             "any value reads back as it was written");
     Require(DifferInOneLine(bytes, strWritten), "the rest of the file stays");
 
-    const std::string strOthers = ReadOthers(key.group, strPath);
-    SaveSettings(LoadSettings(strPath), key.group, strPath);
+    const std::string strOthers = ReadOthers(files, key.group, strPath);
+    SaveSettings(files, LoadSettings(files, strPath), key.group, strPath);
     const std::string strSaved = folder.ReadBytes(strFileName);
-    Require(ReadOthers(key.group, strPath) == strOthers, "the other settings stay");
-    SaveSettings(LoadSettings(strPath), key.group, strPath);
+    Require(ReadOthers(files, key.group, strPath) == strOthers, "the other settings stay");
+    SaveSettings(files, LoadSettings(files, strPath), key.group, strPath);
     Require(folder.ReadBytes(strFileName) == strSaved, "what was read is written the same");
 }
 

@@ -40,28 +40,28 @@ void ShowFileError(Game& game, std::string strTitle, const std::string& strProbl
 }
 
 std::optional<std::string> PickGameFile(Game& game, FilePurpose purpose) {
-    if (!PathExists(game.settings.strGameFolder))
+    if (!PathExists(game.files, game.settings.strGameFolder))
         game.settings.strGameFolder = game.strProgramFolder;
     return game.desktop.PickFile({purpose, game.settings.strGameFolder});
 }
 
 void RememberFolder(Game& game, const std::string& strFile) {
     game.settings.strGameFolder = GetFolderFromPath(strFile);
-    SaveSettings(game.settings, SettingsGroup::Path, GetSettingsFile(game));
+    SaveSettings(game.files, game.settings, SettingsGroup::Path, GetSettingsFile(game));
 }
 
-std::optional<SavedGame> ReadGameFile(const std::string& strFile) {
-    const auto bytes = ReadWholeFile(strFile, lngMaxSavedGameBytes);
-    return bytes ? ParseSavedGame(*bytes) : std::nullopt;
+std::optional<SavedGame> ReadGameFile(FilePort& files, const std::string& strFile) {
+    const ReadResult file = ReadWholeFile(files, strFile, lngMaxSavedGameBytes);
+    return file ? ParseSavedGame(file.bytes) : std::nullopt;
 }
 
 void OpenGameFile(Game& game, const std::string& strFile) {
-    if (!FileExists(strFile)) {
+    if (!FileExists(game.files, strFile)) {
         ShowFileError(game, "File Doesn't Exist", "The selected file does not exist",
                       "To continue, please choose a valid file.");
         return;
     }
-    const auto savedGame = ReadGameFile(strFile);
+    const auto savedGame = ReadGameFile(game.files, strFile);
     if (!savedGame) {
         ShowFileError(game, "Can't Open File", "There was a problem opening the file.",
                       "To continue, please ensure that you are trying to open a Cellora format "
@@ -114,7 +114,7 @@ void SaveGameAs(Game& game) {
 }
 
 std::optional<std::string> WriteGameFile(Game& game) {
-    auto strReason = ReplaceFile(game.strGameFile, FormatSavedGame(TakeGame(game)));
+    auto strReason = ReplaceFile(game.files, game.strGameFile, FormatSavedGame(TakeGame(game)));
     if (!strReason)
         game.blnGameChanged = false;
     return strReason;

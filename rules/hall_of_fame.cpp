@@ -38,40 +38,46 @@ void InsertEntry(LevelEntries& entries, int intRank, HallOfFameEntry entry) {
 }
 
 /// Copies a file that is not in form beside it; an earlier copy stays.
-std::optional<std::string> KeepDamagedFile(const std::string& strFile, std::string_view bytes) {
+std::optional<std::string> KeepDamagedFile(FilePort& files, const std::string& strFile,
+                                           std::string_view bytes) {
     std::string strCopy = strFile + ".damaged";
-    for (int intCopy = 2; PathExists(strCopy); ++intCopy)
+    for (int intCopy = 2; PathExists(files, strCopy); ++intCopy)
         strCopy = strFile + ".damaged-" + std::to_string(intCopy);
-    return ReplaceFile(strCopy, bytes);
+    return ReplaceFile(files, strCopy, bytes);
 }
 
 /// Reads the file for rewriting. A missing one counts as empty; a damaged one is kept first.
-std::optional<std::string> ReadForRewriting(const std::string& strFile, HallOfFame& hallOfFame) {
-    if (!PathExists(strFile)) {
+std::optional<std::string> ReadForRewriting(FilePort& files, const std::string& strFile,
+                                            HallOfFame& hallOfFame) {
+    const ReadResult file = ReadWholeFile(files, strFile, lngMaxHallOfFameBytes);
+    if (file.outcome == ReadOutcome::Missing) {
         hallOfFame = MakeEmptyHallOfFame();
         return std::nullopt;
     }
-    const auto bytes = ReadWholeFile(strFile, lngMaxHallOfFameBytes);
-    if (!bytes)
+    if (!file)
         return "The file \"hof.clh\" cannot be read.";
-    return ReadHallOfFameBytes(*bytes, hallOfFame) ? std::nullopt
-                                                   : KeepDamagedFile(strFile, *bytes);
+    return ReadHallOfFameBytes(file.bytes, hallOfFame)
+               ? std::nullopt
+               : KeepDamagedFile(files, strFile, file.bytes);
 }
 
 /// Replaces the file by what `fnEdit` makes of it, all inside the lock.
 template <typename Edit>
 std::optional<std::string> RewriteHallOfFame(const Game& game, Edit fnEdit) {
     const std::string strFile = GetFilePath(game);
-    FileLock lock(strFile);
-    if (!lock.TryLock(msLockTimeout))
-        return lock.IsHeldElsewhere()
-                   ? "Another copy of the program is using the file \"hof.clh\"."
-                   : "The folder of the file \"hof.clh\" cannot be written, or its disk is full.";
+    FileLock lock(game.files, strFile);
+    const LockOutcome outcome = lock.TryLock(msLockTimeout);
+    if (outcome == LockOutcome::HeldElsewhere)
+        return "Another copy of the program is using the file \"hof.clh\".";
+    // Where the disk knows no locks, an entry for sure is worth more than one less in a hundred
+    // thousand.
+    if (outcome == LockOutcome::Failed)
+        return "The folder of the file \"hof.clh\" cannot be written, or its disk is full.";
     HallOfFame hallOfFame;
-    if (auto reason = ReadForRewriting(strFile, hallOfFame))
+    if (auto reason = ReadForRewriting(game.files, strFile, hallOfFame))
         return reason;
     fnEdit(hallOfFame);
-    return ReplaceFile(strFile, FormatHallOfFame(hallOfFame));
+    return ReplaceFile(game.files, strFile, FormatHallOfFame(hallOfFame));
 }
 
 /// The same, with the hourglass meanwhile: another copy may hold the lock for a moment.
@@ -88,9 +94,8 @@ std::optional<std::string> RewriteUnderHourglass(const Game& game, Edit fnEdit) 
 void ReadHallOfFame(const Game& game, int intLevel, LevelEntries& entries) {
     if (intLevel < 1 || intLevel > intLevelCount)
         return;
-    const std::string strFile = GetFilePath(game);
-    if (const auto bytes = ReadWholeFile(strFile, lngMaxHallOfFameBytes))
-        ReadLevelBytes(*bytes, intLevel, entries);
+    if (const auto file = ReadWholeFile(game.files, GetFilePath(game), lngMaxHallOfFameBytes))
+        ReadLevelBytes(file.bytes, intLevel, entries);
 }
 
 std::int16_t GetCurrentLevel(const Game& game) {
@@ -121,8 +126,8 @@ std::optional<std::string> ResetHallOfFame(const Game& game) {
 
 std::int16_t GetHighestRecordedLevel(const Game& game) {
     HallOfFame hallOfFame;
-    if (const auto bytes = ReadWholeFile(GetFilePath(game), lngMaxHallOfFameBytes))
-        ReadHallOfFameBytes(*bytes, hallOfFame);
+    if (const auto file = ReadWholeFile(game.files, GetFilePath(game), lngMaxHallOfFameBytes))
+        ReadHallOfFameBytes(file.bytes, hallOfFame);
     for (std::int16_t intLevel = intLevelCount; intLevel >= 1; --intLevel) {
         if (Trim(hallOfFame[intLevel][1].strName) != strNoName)
             return intLevel;

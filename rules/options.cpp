@@ -12,7 +12,7 @@ namespace cellora {
 namespace {
 
 void SaveOptions(const Game& game) {
-    SaveSettings(game.settings, SettingsGroup::Options, GetSettingsFile(game));
+    SaveSettings(game.files, game.settings, SettingsGroup::Options, GetSettingsFile(game));
 }
 
 } // namespace

@@ -34,19 +34,19 @@ bool AskToRestore(Game& game) {
 
 } // namespace
 
-Recovery::Recovery(const std::string& strProgramFolder) {
-    const std::vector<std::string> files = GetFiles(strProgramFolder);
+Recovery::Recovery(FilePort& files, const std::string& strProgramFolder) : files_(files) {
+    const std::vector<std::string> paths = GetFiles(strProgramFolder);
     for (const bool blnLeftBehind : {true, false}) {
-        for (const std::string& strFile : files) {
-            if (FileExists(strFile) == blnLeftBehind && TakeFile(strFile))
+        for (const std::string& strFile : paths) {
+            if (FileExists(files_, strFile) == blnLeftBehind && TakeFile(strFile))
                 return;
         }
     }
 }
 
 bool Recovery::TakeFile(const std::string& strFile) {
-    auto lock = std::make_unique<FileLock>(strFile);
-    if (!lock->TryLock(0))
+    auto lock = std::make_unique<FileLock>(files_, strFile);
+    if (lock->TryLock(0) != LockOutcome::Locked)
         return false;
     lock_ = std::move(lock);
     strFile_ = strFile;
@@ -83,29 +83,29 @@ void Recovery::Write(const Game& game) {
     if (strFile_.empty() || !game.IsInPlay())
         return;
     // What cannot be written now is tried again with the next change.
-    if (!ReplaceFile(strFile_, FormatSavedGame(TakeGame(game))))
+    if (!ReplaceFile(files_, strFile_, FormatSavedGame(TakeGame(game))))
         blnWritten_ = true;
 }
 
 void Recovery::OfferToRestore(Game& game) {
-    if (strFile_.empty() || !FileExists(strFile_))
+    if (strFile_.empty() || !FileExists(files_, strFile_))
         return;
-    const auto bytes = ReadWholeFile(strFile_, lngMaxSavedGameBytes);
-    const auto savedGame = bytes ? ParseSavedGame(*bytes) : std::nullopt;
+    const ReadResult file = ReadWholeFile(files_, strFile_, lngMaxSavedGameBytes);
+    const auto savedGame = file ? ParseSavedGame(file.bytes) : std::nullopt;
     if (!savedGame) {
-        RenameFile(strFile_, strFile_ + ".damaged");
+        files_.Rename(strFile_, strFile_ + ".damaged");
     } else if (AskToRestore(game)) {
         blnWritten_ = true;
         ShowSavedGame(game, *savedGame);
         game.blnGameChanged = true;
     } else {
-        RemoveFile(strFile_);
+        files_.Remove(strFile_);
     }
 }
 
 void Recovery::Remove() {
     if (!strFile_.empty())
-        RemoveFile(strFile_);
+        files_.Remove(strFile_);
     blnWritten_ = false;
 }
 

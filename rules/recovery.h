@@ -17,7 +17,7 @@ struct Game;
 class Recovery final {
 public:
     /// Takes the first free file that an earlier copy left behind, else the first free one.
-    explicit Recovery(const std::string& strProgramFolder);
+    Recovery(FilePort& files, const std::string& strProgramFolder);
 
     /// To be called after every event. A change of the cells starts `tmrRecovery`, which then calls
     /// `tmrRecovery_Timer` a second later; a game that has ended removes the file.
@@ -44,6 +44,7 @@ private:
     bool TakeFile(const std::string& strFile);
     void Write(const Game& game);
 
+    FilePort& files_;
     std::string strFile_;
     std::unique_ptr<FileLock> lock_;
     Numbered<SavedCell, intCellCount> cells_; ///< as last seen

@@ -11,15 +11,15 @@ std::string GetSettingsFile(const Game& game) {
 }
 
 void LoadMainWindow(Game& game) {
-    game.settings = LoadSettings(GetSettingsFile(game));
-    if (PathExists(game.settings.strGameFolder))
+    game.settings = LoadSettings(game.files, GetSettingsFile(game));
+    if (PathExists(game.files, game.settings.strGameFolder))
         return;
     game.settings.strGameFolder = game.strProgramFolder;
-    SaveSettings(game.settings, SettingsGroup::Path, GetSettingsFile(game));
+    SaveSettings(game.files, game.settings, SettingsGroup::Path, GetSettingsFile(game));
 }
 
 void UnloadMainWindow(const Game& game) {
-    SaveSettings(game.settings, SettingsGroup::View, GetSettingsFile(game));
+    SaveSettings(game.files, game.settings, SettingsGroup::View, GetSettingsFile(game));
 }
 
 } // namespace cellora

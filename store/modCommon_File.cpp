@@ -1,39 +1,26 @@
 #include "store/modCommon_File.h"
 
 #include <filesystem>
-#include <system_error>
 
 namespace cellora {
 
 namespace {
 
-/// An empty path for text that names none.
-std::filesystem::path ToPath(const std::string& strPath) {
-    // The system would silently take a path up to its first zero byte.
-    if (strPath.find('\0') != std::string::npos)
-        return {};
-    try {
-        return std::u8string(strPath.begin(), strPath.end());
-    } catch (const std::system_error&) {
-        // Where paths are not bytes, text that is not UTF-8 cannot be converted.
-        return {};
-    }
-}
-
-std::filesystem::file_status GetStatus(const std::string& strPath) {
-    std::error_code error;
-    return std::filesystem::status(ToPath(strPath), error);
+/// Missing where the system cannot tell.
+PathKind GetKind(FilePort& files, const std::string& strPath) {
+    PathStatus status;
+    return files.GetStatus(strPath, status) ? PathKind::Missing : status.kind;
 }
 
 } // namespace
 
-bool FileExists(std::string strPath) {
-    const std::filesystem::file_status status = GetStatus(strPath);
-    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+bool FileExists(FilePort& files, std::string strPath) {
+    const PathKind kind = GetKind(files, strPath);
+    return kind != PathKind::Missing && kind != PathKind::Folder;
 }
 
-bool PathExists(std::string strPath) {
-    return std::filesystem::exists(GetStatus(strPath));
+bool PathExists(FilePort& files, std::string strPath) {
+    return GetKind(files, strPath) != PathKind::Missing;
 }
 
 std::string GetFolderFromPath(std::string strPath) {
@@ -51,16 +38,6 @@ std::string JoinPath(const std::string& strFolder, const std::string& strName) {
     if (GetFolderFromPath(strFolder) == strFolder)
         return strFolder + strName;
     return strFolder + static_cast<char>(std::filesystem::path::preferred_separator) + strName;
-}
-
-void RemoveFile(const std::string& strPath) {
-    std::error_code ignored;
-    std::filesystem::remove(ToPath(strPath), ignored);
-}
-
-void RenameFile(const std::string& strPath, const std::string& strNewPath) {
-    std::error_code ignored;
-    std::filesystem::rename(ToPath(strPath), ToPath(strNewPath), ignored);
 }
 
 } // namespace cellora

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "store/ascii.h"
-#include "store/modCommon_File.h"
 #include "store/replace_file.h"
 
 namespace cellora {
@@ -168,9 +167,9 @@ std::string SetValue(std::string_view strText, const INIValue& value) {
 
 } // namespace
 
-std::string ReadINI(const std::string& strSection, const std::string& strKey,
+std::string ReadINI(FilePort& files, const std::string& strSection, const std::string& strKey,
                     const std::string& strPath) {
-    return FindINI(ReadWholeFile(strPath, lngMaxINIBytes).value_or(""), strSection, strKey);
+    return FindINI(ReadWholeFile(files, strPath, lngMaxINIBytes).bytes, strSection, strKey);
 }
 
 std::string FindINI(std::string_view strFile, std::string_view strSection,
@@ -182,22 +181,22 @@ std::string FindINI(std::string_view strFile, std::string_view strSection,
     return std::string(CutToLimit(DropQuotes(TrimBlanks(strValue))));
 }
 
-void WriteINI(const std::string& strSection, const std::string& strKey, const std::string& strValue,
-              const std::string& strPath) {
-    WriteINI(std::array{INIValue{strSection, strKey, strValue}}, strPath);
+void WriteINI(FilePort& files, const std::string& strSection, const std::string& strKey,
+              const std::string& strValue, const std::string& strPath) {
+    WriteINI(files, std::array{INIValue{strSection, strKey, strValue}}, strPath);
 }
 
-void WriteINI(std::span<const INIValue> values, const std::string& strPath) {
-    const std::optional<std::string> strFile = ReadWholeFile(strPath, lngMaxINIBytes);
+void WriteINI(FilePort& files, std::span<const INIValue> values, const std::string& strPath) {
+    const ReadResult file = ReadWholeFile(files, strPath, lngMaxINIBytes);
     // A file that is there but cannot be read must not be replaced by one that holds a few keys.
-    if (!strFile && PathExists(strPath))
+    if (file.outcome == ReadOutcome::Failed)
         return;
-    std::string strText = strFile.value_or("");
+    std::string strText = file.bytes;
     for (const INIValue& value : values)
         if (IsWritable(value))
             strText = SetValue(strText, value);
-    if (strText != strFile.value_or("") && strText.size() <= lngMaxINIBytes)
-        ReplaceFile(strPath, strText);
+    if (strText != file.bytes && strText.size() <= lngMaxINIBytes)
+        ReplaceFile(files, strPath, strText);
 }
 
 } // namespace cellora

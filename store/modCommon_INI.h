@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "store/file_port.h"
+
 /// Single values of a text file of sections, keys and values:
 ///
 ///     ; a comment
@@ -22,7 +24,7 @@ inline constexpr std::size_t lngMaxINIBytes = std::size_t{16} << 20U;
 
 /// The value without the pair of quotes (" or ') that may enclose it, cut to its first 254
 /// characters. Empty text when the section or the key does not exist or the file cannot be read.
-std::string ReadINI(const std::string& strSection, const std::string& strKey,
+std::string ReadINI(FilePort& files, const std::string& strSection, const std::string& strKey,
                     const std::string& strPath);
 
 /// The same value in the content of a file.
@@ -37,8 +39,8 @@ std::string FindINI(std::string_view strFile, std::string_view strSection, std::
 /// cannot be read, when it would become too large, and when a text could not be read back: one with
 /// a line break, an empty name, a section with "]", a key with "=", "[" or ";", a name with blanks
 /// around it.
-void WriteINI(const std::string& strSection, const std::string& strKey, const std::string& strValue,
-              const std::string& strPath);
+void WriteINI(FilePort& files, const std::string& strSection, const std::string& strKey,
+              const std::string& strValue, const std::string& strPath);
 
 struct INIValue {
     std::string strSection;
@@ -48,6 +50,6 @@ struct INIValue {
 
 /// Stores several values, in their order, by one replacement of the file. A text that could not be
 /// read back is left out.
-void WriteINI(std::span<const INIValue> values, const std::string& strPath);
+void WriteINI(FilePort& files, std::span<const INIValue> values, const std::string& strPath);
 
 } // namespace cellora

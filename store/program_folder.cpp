@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QStandardPaths>
 #include <QString>
-#include <QTemporaryFile>
 
 #include "store/modCommon_File.h"
 #include "store/replace_file.h"
@@ -15,9 +14,24 @@ namespace {
 constexpr int msPlaceTimeout = 2000;
 
 /// Trying is the only sure answer: permissions alone know nothing of read-only disks and quotas.
-bool CanCreateFile(const std::string& strFolder) {
-    QTemporaryFile file(QString::fromStdString(JoinPath(strFolder, "cellora-XXXXXX.tmp")));
-    return file.open();
+bool CanCreateFile(FilePort& files, const std::string& strFolder) {
+    const std::string strFile = JoinPath(strFolder, MakeTemporaryName());
+    FileHandle file = FileHandle::None;
+    if (files.Create(strFile, {}, file))
+        return false;
+    files.Close(file);
+    files.Remove(strFile);
+    return true;
+}
+
+/// The folder and those it lies in, as far as they are missing. Failures are ignored.
+void MakeFolders(FilePort& files, std::string strFolder) {
+    while (!strFolder.empty() && strFolder == GetFolderFromPath(strFolder))
+        strFolder.pop_back();
+    if (strFolder.empty() || PathExists(files, strFolder))
+        return;
+    MakeFolders(files, GetFolderFromPath(strFolder));
+    files.MakeFolder(strFolder);
 }
 
 } // namespace
@@ -37,23 +51,24 @@ std::string GetUserDataFolder() {
     return QDir::toNativeSeparators(QDir::cleanPath(strFolder)).toStdString();
 }
 
-std::string GetProgramFolder(const std::string& strExecutableFolder,
+std::string GetProgramFolder(FilePort& files, const std::string& strExecutableFolder,
                              const std::string& strUserDataFolder) {
-    if (strUserDataFolder.empty() || CanCreateFile(strExecutableFolder))
+    if (strUserDataFolder.empty() || CanCreateFile(files, strExecutableFolder))
         return strExecutableFolder;
-    QDir().mkpath(QString::fromStdString(strUserDataFolder));
+    MakeFolders(files, strUserDataFolder);
     return strUserDataFolder;
 }
 
-void PlaceShippedFiles(const std::string& strFolder, std::span<const ShippedFile> files) {
-    for (const ShippedFile& file : files) {
+void PlaceShippedFiles(FilePort& files, const std::string& strFolder,
+                       std::span<const ShippedFile> shipped) {
+    for (const ShippedFile& file : shipped) {
         const std::string strPath = JoinPath(strFolder, std::string(file.strName));
-        if (PathExists(strPath))
+        if (PathExists(files, strPath))
             continue;
-        FileLock lock(strPath);
+        FileLock lock(files, strPath);
         // Another copy may have placed the file, and even used it, before the lock was free.
-        if (lock.TryLock(msPlaceTimeout) && !PathExists(strPath))
-            ReplaceFile(strPath, file.strContent);
+        if (lock.TryLock(msPlaceTimeout) == LockOutcome::Locked && !PathExists(files, strPath))
+            ReplaceFile(files, strPath, file.strContent);
     }
 }
 

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "store/file_port.h"
+
 /// Where the program keeps its files. Paths are UTF-8.
 namespace cellora {
 
@@ -21,11 +23,12 @@ std::string GetUserDataFolder();
 /// The folder of the settings and hall-of-fame files: the folder of the running program when a file
 /// can be created there, else `strUserDataFolder`, made when missing. When there is no user's
 /// folder either, the program's folder all the same. The folders have no separator at their end.
-std::string GetProgramFolder(const std::string& strExecutableFolder,
+std::string GetProgramFolder(FilePort& files, const std::string& strExecutableFolder,
                              const std::string& strUserDataFolder);
 
 /// Puts every shipped file that is missing into the folder. What exists is never touched, not even
 /// when another copy of the program starts at the same moment; failures are ignored.
-void PlaceShippedFiles(const std::string& strFolder, std::span<const ShippedFile> files);
+void PlaceShippedFiles(FilePort& files, const std::string& strFolder,
+                       std::span<const ShippedFile> shipped);
 
 } // namespace cellora

@@ -1,96 +1,165 @@
 #include "store/replace_file.h"
 
+#include <algorithm>
 #include <chrono>
+#include <random>
 #include <thread>
-#include <utility>
 
-#include <QFile>
-#include <QFileInfo>
-#include <QLockFile>
-#include <QSaveFile>
-#include <QString>
+#include "store/modCommon_File.h"
 
 namespace cellora {
 
 namespace {
 
-/// A lock that has no holder's name in it after this time never gets one.
-constexpr int msNameless = 1000;
+constexpr std::size_t lngMaxChunk = std::size_t{64} << 10U;
+constexpr int intMaxNames = 20;
+constexpr const char* strNoFile = "It is no regular file";
 
-/// A write on a full disk may stop short without an error; only going on with the rest tells.
-bool WriteAll(QSaveFile& file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const qint64 lngWritten = file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-        if (lngWritten <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(lngWritten));
+std::string FormatReason(const std::string& strPath, const char* strWhat,
+                         const std::string& strProblem) {
+    return "\"" + strPath + "\" could not be " + strWhat + ": " + strProblem + ".";
+}
+
+/// Reads to the end, which no count of the system's is trusted for: files without end are said to
+/// be empty, and a disk may give less than it has.
+std::error_code ReadToEnd(FilePort& files, FileHandle file, std::uint64_t lngSize,
+                          std::size_t lngMaxBytes, std::string& bytes) {
+    std::size_t lngDone = 0;
+    while (lngSize <= lngMaxBytes && lngDone <= lngMaxBytes) {
+        std::size_t lngRead = 0;
+        const std::size_t lngLeft = lngSize > lngDone ? lngSize - lngDone : 0;
+        bytes.resize(lngDone + std::clamp<std::size_t>(lngLeft, 1, lngMaxChunk));
+        if (const auto error = files.Read(file, std::span(bytes).subspan(lngDone), lngRead))
+            return error;
+        lngDone += lngRead;
+        if (lngRead > 0)
+            continue;
+        bytes.resize(lngDone);
+        return lngDone < lngSize ? std::make_error_code(std::errc::io_error) : std::error_code();
     }
-    return true;
+    return std::make_error_code(std::errc::file_too_large);
+}
+
+std::error_code ReadRegularFile(FilePort& files, const std::string& strPath,
+                                std::size_t lngMaxBytes, std::string& bytes) {
+    FileHandle file = FileHandle::None;
+    std::uint64_t lngSize = 0;
+    if (const auto error = files.OpenForReading(strPath, file, lngSize))
+        return error;
+    const auto error = ReadToEnd(files, file, lngSize, lngMaxBytes, bytes);
+    files.Close(file);
+    return error;
+}
+
+std::error_code WriteAll(FilePort& files, FileHandle file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        std::size_t lngWritten = 0;
+        if (const auto error = files.Write(file, bytes, lngWritten))
+            return error;
+        if (lngWritten == 0)
+            return std::make_error_code(std::errc::io_error);
+        bytes.remove_prefix(lngWritten);
+    }
+    return files.Flush(file);
+}
+
+/// Creates the file that is to take the other's place, in the same folder.
+std::error_code CreateBeside(FilePort& files, const std::string& strPath, std::string& strTemporary,
+                             FileHandle& file) {
+    auto error = std::make_error_code(std::errc::file_exists);
+    for (int n = 0; n < intMaxNames && error == std::errc::file_exists; ++n) {
+        strTemporary = GetFolderFromPath(strPath) + MakeTemporaryName();
+        error = files.Create(strTemporary, strPath, file);
+    }
+    return error;
+}
+
+std::error_code ReplaceRegularFile(FilePort& files, const std::string& strPath,
+                                   std::string_view bytes) {
+    std::string strTemporary;
+    FileHandle file = FileHandle::None;
+    if (const auto error = CreateBeside(files, strPath, strTemporary, file))
+        return error;
+    auto error = WriteAll(files, file, bytes);
+    const auto closeError = files.Close(file);
+    error = error ? error : closeError;
+    if (!error)
+        error = files.Rename(strTemporary, strPath);
+    if (!error)
+        return files.FlushFolder(GetFolderFromPath(strPath));
+    files.Remove(strTemporary);
+    return error;
 }
 
 } // namespace
 
-std::optional<std::string> ReplaceFile(const std::string& strPath, std::string_view bytes) {
-    QSaveFile file(QString::fromStdString(strPath));
-    // Unbuffered, because a short write of the buffer would go unnoticed.
-    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteAll(file, bytes) &&
-        file.commit())
-        return std::nullopt;
-    std::string strReason = file.errorString().toStdString();
-    if (strReason.ends_with('.')) // as every message of Windows does
-        strReason.pop_back();
-    return "\"" + strPath + "\" could not be written: " + strReason + ".";
-}
-
-std::optional<std::string> ReadWholeFile(const std::string& strPath, std::size_t lngMaxBytes) {
-    QFile file(QString::fromStdString(strPath));
-    // Opening a pipe or a device could wait for ever.
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) ||
-        std::cmp_greater(file.size(), lngMaxBytes))
-        return std::nullopt;
-    const QByteArray bytes = file.readAll();
-    // The file may have grown since its size was asked.
-    if (file.error() != QFileDevice::NoError || std::cmp_greater(bytes.size(), lngMaxBytes))
-        return std::nullopt;
-    return bytes.toStdString();
-}
-
-struct FileLock::Impl {
-    explicit Impl(const std::string& strPath) : lock(QString::fromStdString(strPath + ".lock")) {}
-
-    bool TryOnce() {
-        qint64 lngProcess = 0;
-        QString strHost;
-        QString strProgram;
-        // However long a living holder keeps the lock, it is not taken from it. Only a lock without
-        // a holder's name, left by a copy that was killed while making it, is judged by its age.
-        const bool blnNamed = lock.getLockInfo(&lngProcess, &strHost, &strProgram);
-        lock.setStaleLockTime(blnNamed ? 0 : msNameless);
-        return lock.tryLock(0);
+ReadResult ReadWholeFile(FilePort& files, const std::string& strPath, std::size_t lngMaxBytes) {
+    ReadResult result{ReadOutcome::Failed, {}, {}};
+    PathStatus status;
+    auto error = files.GetStatus(strPath, status);
+    if (!error && status.kind == PathKind::Missing)
+        return {};
+    if (!error && status.kind != PathKind::File) {
+        result.strReason = FormatReason(strPath, "read", strNoFile);
+        return result;
     }
+    if (!error)
+        error = ReadRegularFile(files, strPath, lngMaxBytes, result.bytes);
+    if (!error) {
+        result.outcome = ReadOutcome::Read;
+    } else {
+        result.bytes.clear();
+        result.strReason = FormatReason(strPath, "read", error.message());
+    }
+    return result;
+}
 
-    QLockFile lock;
-};
+std::optional<std::string> ReplaceFile(FilePort& files, const std::string& strPath,
+                                       std::string_view bytes) {
+    std::string strTarget;
+    PathStatus status;
+    auto error = files.FollowLinks(strPath, strTarget);
+    if (!error)
+        error = files.GetStatus(strTarget, status);
+    if (!error && status.kind != PathKind::File && status.kind != PathKind::Missing)
+        return FormatReason(strPath, "written", strNoFile);
+    if (!error)
+        error = ReplaceRegularFile(files, strTarget, bytes);
+    return error ? std::optional(FormatReason(strPath, "written", error.message())) : std::nullopt;
+}
 
-FileLock::FileLock(const std::string& strPath) : impl_(std::make_unique<Impl>(strPath)) {}
+std::string MakeTemporaryName() {
+    constexpr std::string_view strDigits = "0123456789abcdef";
+    std::string strName = ".cellora-";
+    std::random_device random;
+    for (int n = 0; n < 12; ++n)
+        strName += strDigits[random() % strDigits.size()];
+    return strName + ".tmp";
+}
 
-FileLock::~FileLock() = default;
+FileLock::FileLock(FilePort& files, const std::string& strPath)
+    : files_(files), strLock_(strPath + ".lock") {}
 
-bool FileLock::TryLock(int msTimeout) {
+FileLock::~FileLock() {
+    if (lock_ != FileHandle::None)
+        files_.ReleaseLock(strLock_, lock_);
+}
+
+LockOutcome FileLock::TryLock(int msTimeout) {
     using Clock = std::chrono::steady_clock;
     const Clock::time_point deadline = Clock::now() + std::chrono::milliseconds(msTimeout);
-    // QLockFile's own waiting doubles its pauses up to seconds, which starves a copy of the program
-    // beside one that takes the lock often.
-    while (!impl_->TryOnce()) {
-        if (impl_->lock.error() != QLockFile::LockFailedError || Clock::now() >= deadline)
-            return false;
+    while (true) {
+        const auto error = files_.TakeLock(strLock_, lock_);
+        if (!error)
+            return LockOutcome::Locked;
+        lock_ = FileHandle::None;
+        if (error != std::errc::resource_unavailable_try_again)
+            return error == std::errc::not_supported ? LockOutcome::NotSupported
+                                                     : LockOutcome::Failed;
+        if (Clock::now() >= deadline)
+            return LockOutcome::HeldElsewhere;
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
-    return true;
-}
-
-bool FileLock::IsHeldElsewhere() const {
-    return impl_->lock.error() == QLockFile::LockFailedError;
 }
 
 } // namespace cellora

@@ -126,8 +126,8 @@ auto Visit(const Row& row, AnySettings& settings, Use fnUse) {
 
 } // namespace
 
-Settings LoadSettings(const std::string& strPath) {
-    const std::string strFile = ReadWholeFile(strPath, lngMaxINIBytes).value_or("");
+Settings LoadSettings(FilePort& files, const std::string& strPath) {
+    const std::string strFile = ReadWholeFile(files, strPath, lngMaxINIBytes).bytes;
     Settings settings;
     for (const Row& row : aRows)
         Visit(row, settings,
@@ -135,14 +135,15 @@ Settings LoadSettings(const std::string& strPath) {
     return settings;
 }
 
-void SaveSettings(const Settings& settings, SettingsGroup group, const std::string& strPath) {
+void SaveSettings(FilePort& files, const Settings& settings, SettingsGroup group,
+                  const std::string& strPath) {
     std::vector<INIValue> values;
     for (const Row& row : aRows)
         if (row.group == group)
             values.push_back(
                 {row.strSection, row.strKey,
                  Visit(row, settings, [](const auto& value) { return Format(value); })});
-    WriteINI(values, strPath);
+    WriteINI(files, values, strPath);
 }
 
 } // namespace cellora

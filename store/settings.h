@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "store/file_port.h"
+
 /// The values of the settings file. `strPath` is the full path of the file.
 namespace cellora {
 
@@ -20,10 +22,11 @@ enum class SettingsGroup {
 /// Whole numbers stand alone in decimal digits. A view choice is the word True or False in any
 /// letter case, or a number, of which only 0 is false. "startup" is the number at the start of its
 /// text, 0 where the text begins with none.
-Settings LoadSettings(const std::string& strPath);
+Settings LoadSettings(FilePort& files, const std::string& strPath);
 
 /// Writes one group by a single replacement of the file; a write that fails is ignored. Other
 /// values, known or not, stay as they are.
-void SaveSettings(const Settings& settings, SettingsGroup group, const std::string& strPath);
+void SaveSettings(FilePort& files, const Settings& settings, SettingsGroup group,
+                  const std::string& strPath);
 
 } // namespace cellora

@@ -7,6 +7,7 @@
 #include "core/levels.h"
 #include "core/modCellora.h"
 #include "core/modCreateSudoku.h"
+#include "store/system_files.h"
 #include "tests/support/scripted_desktop.h"
 
 namespace cellora {
@@ -27,7 +28,8 @@ protected:
     auto CountGiven() const { return std::ranges::count_if(game.cells, &Cell::blnGiven); }
 
     ScriptedDesktop desktop;
-    Game game{desktop};
+    SystemFiles files;
+    Game game{desktop, files};
 };
 
 TEST_F(Core, RandomNumbersFollowThePublishedSequenceAtMidnight) {

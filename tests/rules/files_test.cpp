@@ -108,23 +108,23 @@ TEST(HallOfFame, IsNotReplacedBeforeTheDamagedFileIsKept) {
 }
 
 TEST(Recovery, KeepsTheGamesOfNineCopies) {
+    Player player;
     const TemporaryFolder folder;
     std::vector<std::unique_ptr<Recovery>> copies;
     std::string strFiles;
     for (int n = 0; n < 10; ++n) {
-        copies.push_back(std::make_unique<Recovery>(folder.Path()));
+        copies.push_back(std::make_unique<Recovery>(player.files, folder.Path()));
         strFiles += std::filesystem::path(copies.back()->file()).stem().string() + ' ';
     }
     EXPECT_EQ(strFiles, "recovery recovery-2 recovery-3 recovery-4 recovery-5 recovery-6 "
                         "recovery-7 recovery-8 recovery-9  ");
-    Player player;
     player.Play("puzzle");
     copies[9]->tmrRecovery_Timer(player.game);
     copies[9]->OfferToRestore(player.game);
     copies[9]->Remove();
     copies[2]->tmrRecovery_Timer(player.game);
     copies.clear();
-    EXPECT_EQ(Recovery(folder.Path()).file(), folder.Path("recovery-3.clp"))
+    EXPECT_EQ(Recovery(player.files, folder.Path()).file(), folder.Path("recovery-3.clp"))
         << "a game that was left behind comes first";
 }
 

@@ -24,6 +24,7 @@
 #include "rules/recovery.h"
 #include "rules/selector.h"
 #include "rules/start_up.h"
+#include "store/system_files.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/view_text.h"
@@ -52,7 +53,8 @@ public:
 
     TemporaryFolder folder;
     ScriptedDesktop desktop;
-    Game game{desktop};
+    SystemFiles files;
+    Game game{desktop, files};
     std::deque<std::string> during; ///< commands for the modal windows to come
 
 private:
@@ -162,7 +164,7 @@ private:
     }
 
     void StartRecovery() {
-        recovery_.emplace(folder.Path());
+        recovery_.emplace(files, folder.Path());
         Report(recovery_->file());
     }
 

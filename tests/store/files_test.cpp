@@ -10,6 +10,7 @@
 #include "store/modCommon_File.h"
 #include "store/program_folder.h"
 #include "store/replace_file.h"
+#include "store/system_files.h"
 #include "tests/support/faults.h"
 #include "tests/support/temporary_folder.h"
 
@@ -18,17 +19,23 @@ namespace {
 
 class Files : public testing::Test {
 protected:
+    std::string Read(const std::string& strPath, std::size_t lngMaxBytes) {
+        const ReadResult file = ReadWholeFile(files, strPath, lngMaxBytes);
+        return file ? file.bytes : file.strReason.empty() ? "missing" : file.strReason;
+    }
+
+    SystemFiles files;
     const TemporaryFolder folder;
     const std::string strFile = folder.WriteBytes("Spiel \xC3\xA4.clp", "12345");
 };
 
 TEST_F(Files, AreToldFromFoldersAndNothing) {
-    EXPECT_TRUE(FileExists(strFile) && PathExists(strFile));
-    EXPECT_TRUE(!FileExists(folder.Path()) && PathExists(folder.Path()));
+    EXPECT_TRUE(FileExists(files, strFile) && PathExists(files, strFile));
+    EXPECT_TRUE(!FileExists(files, folder.Path()) && PathExists(files, folder.Path()));
     for (const std::string& strPath :
          {std::string(), folder.Path("missing"), strFile + "/below", strFile + std::string(1, '\0'),
           folder.Path(std::string(5000, 'x')), folder.Path("\xFF\xFE")})
-        EXPECT_FALSE(FileExists(strPath) || PathExists(strPath)) << strPath;
+        EXPECT_FALSE(FileExists(files, strPath) || PathExists(files, strPath)) << strPath;
 }
 
 TEST_F(Files, LieInTheFolderBeforeTheLastSeparator) {
@@ -52,72 +59,69 @@ TEST_F(Files, LieInTheFolderBeforeTheLastSeparator) {
 
 TEST_F(Files, AreReplacedByExactlyTheBytesAndNothingBeside) {
     const std::string bytes("a\r\nb\n\0\xFF", 7);
-    EXPECT_EQ(ReplaceFile(strFile, bytes), std::nullopt);
-    EXPECT_EQ(ReadWholeFile(strFile, bytes.size()), bytes);
-    EXPECT_EQ(ReadWholeFile(strFile, bytes.size() - 1), std::nullopt);
-    EXPECT_EQ(ReplaceFile(folder.Path("new"), ""), std::nullopt);
-    EXPECT_EQ(ReadWholeFile(folder.Path("new"), 0), "");
+    EXPECT_EQ(ReplaceFile(files, strFile, bytes), std::nullopt);
+    EXPECT_EQ(Read(strFile, bytes.size()), bytes);
+    EXPECT_EQ(ReplaceFile(files, folder.Path("new"), ""), std::nullopt);
+    EXPECT_EQ(Read(folder.Path("new"), 0), "");
     EXPECT_EQ(folder.Count(), 2);
-    for (const std::string& strPath : {folder.Path("missing"), folder.Path(), std::string()})
-        EXPECT_EQ(ReadWholeFile(strPath, 1'000'000), std::nullopt) << strPath;
+}
+
+TEST_F(Files, ThatAreMissingAreToldFromThoseThatCannotBeRead) {
+    const auto Fail = [](const std::string& strPath, const char* strReason) {
+        return "\"" + strPath + "\" could not be read: " + strReason + ".";
+    };
+    EXPECT_EQ(Read(strFile, 4), Fail(strFile, "File too large"));
+    EXPECT_EQ(Read(folder.Path(), 100), Fail(folder.Path(), "It is no regular file"));
+    for (const std::string& strPath : {folder.Path("missing"), strFile + "/below", std::string()})
+        EXPECT_EQ(Read(strPath, 100), "missing") << strPath;
 }
 
 TEST_F(Files, ThatCannotBeReplacedAreNamedInOneSentence) {
     for (const std::string& strPath :
          {strFile + "/below", folder.Path("missing/file"), folder.MakeFolder("folder")}) {
-        const std::string strReason = ReplaceFile(strPath, "new").value_or("");
+        const std::string strReason = ReplaceFile(files, strPath, "new").value_or("");
         EXPECT_TRUE(strReason.starts_with("\"" + strPath + "\" could not be written: "));
         EXPECT_TRUE(strReason.ends_with(".") && !strReason.ends_with(": .")) << strReason;
     }
-    EXPECT_EQ(ReadWholeFile(strFile, 5), "12345");
+    EXPECT_EQ(Read(strFile, 5), "12345");
     EXPECT_EQ(folder.Count(), 2);
 }
 
 TEST_F(Files, AreLockedByOneAtATime) {
-    auto first = std::make_unique<FileLock>(strFile);
-    FileLock second(strFile);
-    EXPECT_TRUE(first->TryLock(0));
-    EXPECT_FALSE(second.TryLock(30));
-    EXPECT_TRUE(second.IsHeldElsewhere());
-    EXPECT_TRUE(FileLock(folder.Path("other")).TryLock(0));
+    auto first = std::make_unique<FileLock>(files, strFile);
+    FileLock second(files, strFile);
+    EXPECT_EQ(first->TryLock(0), LockOutcome::Locked);
+    EXPECT_EQ(second.TryLock(30), LockOutcome::HeldElsewhere);
+    EXPECT_EQ(FileLock(files, folder.Path("other")).TryLock(0), LockOutcome::Locked);
     std::thread release([&first] {
         std::this_thread::sleep_for(std::chrono::milliseconds(60));
         first.reset();
     });
-    EXPECT_TRUE(second.TryLock(10'000)) << "it waits for the holder";
+    EXPECT_EQ(second.TryLock(10'000), LockOutcome::Locked) << "it waits for the holder";
     release.join();
 
-    FileLock nowhere(folder.Path("missing/file"));
+    FileLock nowhere(files, folder.Path("missing/file"));
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_FALSE(nowhere.TryLock(60'000) || nowhere.IsHeldElsewhere());
+    EXPECT_EQ(nowhere.TryLock(60'000), LockOutcome::Failed);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 TEST_F(Files, LockedByACopyThatIsGoneAreLockedAnew) {
-    // No process has this number; the computer's name is left open.
-    folder.WriteBytes("named.lock", "2147483646\ncellora\n\n");
-    EXPECT_TRUE(FileLock(folder.Path("named")).TryLock(1000));
-    const std::string strLock = folder.WriteBytes("file.lock", "");
-    FileLock lock(folder.Path("file"));
-    EXPECT_FALSE(lock.TryLock(0)) << "its holder may be about to write its name";
-    std::filesystem::last_write_time(strLock, std::filesystem::file_time_type::clock::now() -
-                                                  std::chrono::seconds(10));
-    EXPECT_TRUE(lock.TryLock(0));
-    std::error_code keptFromChanging; // on Windows
-    std::filesystem::last_write_time(
-        strLock, std::filesystem::file_time_type::clock::now() - std::chrono::hours(100),
-        keptFromChanging);
-    EXPECT_FALSE(FileLock(folder.Path("file")).TryLock(0)) << "its holder lives";
+    for (const char* const strContent : {"", "1\ncellora\nanother computer\n"}) {
+        folder.WriteBytes("file.lock", strContent);
+        EXPECT_EQ(FileLock(files, folder.Path("file")).TryLock(0), LockOutcome::Locked);
+        EXPECT_EQ(folder.Count(), 1) << "no lock file stays";
+    }
 }
 
 TEST_F(Files, OfTheProgramLieBesideItOrInTheUsersFolder) {
     const std::string strProgram = folder.MakeFolder("program");
     const std::string strData = folder.Path("some/new/data");
-    EXPECT_EQ(GetProgramFolder(strProgram, strData), strProgram);
-    EXPECT_FALSE(PathExists(strData)) << "it is made only when it is needed";
+    EXPECT_EQ(GetProgramFolder(files, strProgram, strData), strProgram);
+    EXPECT_FALSE(PathExists(files, strData)) << "it is made only when it is needed";
     EXPECT_TRUE(std::filesystem::is_empty(strProgram));
     for (const std::string& strUnusable : {strFile + "/program", folder.Path("missing")})
-        EXPECT_EQ(GetProgramFolder(strUnusable, strData), strData);
+        EXPECT_EQ(GetProgramFolder(files, strUnusable, strData), strData);
     EXPECT_TRUE(std::filesystem::is_directory(strData));
 }
 
@@ -125,8 +129,8 @@ TEST_F(Files, AsShippedFillOnlyGaps) {
     constexpr std::array aFiles = {ShippedFile{"cl.ini", "[general]\r\n"},
                                    ShippedFile{"hof.clh", "1\r\n"}, ShippedFile{"third", "3"}};
     folder.WriteBytes("cl.ini", "");
-    PlaceShippedFiles(folder.Path(), aFiles);
-    PlaceShippedFiles(folder.Path("missing"), aFiles);
+    PlaceShippedFiles(files, folder.Path(), aFiles);
+    PlaceShippedFiles(files, folder.Path("missing"), aFiles);
     EXPECT_EQ(folder.ReadBytes("cl.ini"), "") << "an empty file exists";
     EXPECT_EQ(folder.ReadBytes("hof.clh") + folder.ReadBytes("third"), "1\r\n3");
     EXPECT_EQ(folder.Count(), 4) << "no lock file stays";
@@ -138,9 +142,9 @@ TEST_F(Files, BehindALinkAreReplacedWithTheirMode) {
     using std::filesystem::perms;
     std::filesystem::permissions(strFile, perms::owner_read | perms::owner_write);
     std::filesystem::create_symlink(strFile, folder.Path("link"));
-    EXPECT_EQ(ReplaceFile(folder.Path("link"), "new"), std::nullopt);
+    EXPECT_EQ(ReplaceFile(files, folder.Path("link"), "new"), std::nullopt);
     EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("link")));
-    EXPECT_EQ(ReadWholeFile(strFile, 5), "new");
+    EXPECT_EQ(Read(strFile, 5), "new");
     EXPECT_EQ(std::filesystem::status(strFile).permissions(),
               perms::owner_read | perms::owner_write);
 }
@@ -149,9 +153,9 @@ TEST_F(Files, StayAsTheyWereOnAFullDisk) {
     for (const std::size_t lngSize : {2, 5000, 100'000}) {
         for (const std::size_t lngLimit : {std::size_t{0}, std::size_t{1}, lngSize - 1}) {
             const auto strReason = WithFileSizeLimit(
-                lngLimit, [&] { return ReplaceFile(strFile, std::string(lngSize, 'n')); });
+                lngLimit, [&] { return ReplaceFile(files, strFile, std::string(lngSize, 'n')); });
             EXPECT_EQ(strReason, "\"" + strFile + "\" could not be written: File too large.");
-            EXPECT_EQ(ReadWholeFile(strFile, 5), "12345") << lngSize << " " << lngLimit;
+            EXPECT_EQ(Read(strFile, 5), "12345") << lngSize << " " << lngLimit;
             EXPECT_EQ(folder.Count(), 1);
         }
     }

@@ -12,6 +12,7 @@
 #include "store/modCommon_INI.h"
 #include "store/saved_game.h"
 #include "store/settings.h"
+#include "store/system_files.h"
 #include "tests/support/golden.h"
 #include "tests/support/idle_desktop.h"
 #include "tests/support/temporary_folder.h"
@@ -116,12 +117,12 @@ protected:
             return ReadCutList(std::stoul(parts[0]));
         folder.WriteBytes("cl.ini", parts[0]);
         if (strVerb == "read")
-            return Escape(ReadINI("view", "toolbar", strPath));
+            return Escape(ReadINI(files, "view", "toolbar", strPath));
         if (strVerb == "load")
-            return Describe(LoadSettings(strPath));
+            return Describe(LoadSettings(files, strPath));
         parts.resize(4);
-        WriteINI(parts[2].empty() ? "view" : parts[2], parts[3].empty() ? "toolbar" : parts[3],
-                 parts[1], strPath);
+        WriteINI(files, parts[2].empty() ? "view" : parts[2],
+                 parts[3].empty() ? "toolbar" : parts[3], parts[1], strPath);
         return Escape(folder.ReadBytes("cl.ini"));
     }
 
@@ -153,6 +154,7 @@ protected:
         return (blnWhole ? "whole" : "cut") + Describe(entries[1]) + Describe(entries[10]);
     }
 
+    SystemFiles files;
     const TemporaryFolder folder;
     const std::string strPath = folder.Path("cl.ini");
     std::vector<std::string> savedLines =
@@ -176,7 +178,7 @@ TEST_F(Forms, OfASavedGameAre413LinesThatTheBoardTakesAndGives) {
         ASSERT_EQ(ParseSavedGame(std::string_view(bytes).substr(0, n)).has_value(),
                   n + 2 >= bytes.size());
     IdleDesktop desktop;
-    Game game(desktop);
+    Game game(desktop, files);
     game.traces.intTopOutline = 41;
     game.cells[5] = {"5", true, "7", false, "1 2 ", {true, 9}, {4, true}};
     PutGame(game, *savedGame);
@@ -209,9 +211,9 @@ TEST_F(Forms, OfAValueReadBackAsItWasWritten) {
         for (char& c : strValue)
             c = strAlphabet[random() % strAlphabet.size()];
         folder.WriteBytes("cl.ini", "[view]\r\nlast=1\r\n");
-        WriteINI("view", "toolbar", strValue, strPath);
-        EXPECT_EQ(ReadINI("VIEW", "TOOLBAR", strPath), strValue);
-        EXPECT_EQ(ReadINI("view", "last", strPath), "1");
+        WriteINI(files, "view", "toolbar", strValue, strPath);
+        EXPECT_EQ(ReadINI(files, "VIEW", "TOOLBAR", strPath), strValue);
+        EXPECT_EQ(ReadINI(files, "view", "last", strPath), "1");
     }
 }
 
@@ -223,9 +225,9 @@ TEST_F(Forms, OfAValueEndAt254Characters) {
         const std::string strLimit = std::string(253, 'x') + strCharacter;
         for (const std::string& strStored : {strLimit, strLimit + 'y', '"' + strLimit + '"'}) {
             folder.WriteBytes("cl.ini", "[view]\ntoolbar=" + strStored + "\n");
-            EXPECT_EQ(ReadINI("view", "toolbar", strPath), strLimit);
+            EXPECT_EQ(ReadINI(files, "view", "toolbar", strPath), strLimit);
         }
-        WriteINI("view", "toolbar", strLimit + "yz", strPath);
+        WriteINI(files, "view", "toolbar", strLimit + "yz", strPath);
         EXPECT_EQ(folder.ReadBytes("cl.ini"), "[view]\ntoolbar=" + strLimit + "yz\n");
     }
 }
@@ -233,7 +235,7 @@ TEST_F(Forms, OfAValueEndAt254Characters) {
 TEST_F(Forms, OfSettingsAreLeftAloneBeyond16MiB) {
     const auto Write = [this](const std::string& strText, const char* strValue) {
         folder.WriteBytes("cl.ini", strText);
-        WriteINI("view", "toolbar", strValue, strPath);
+        WriteINI(files, "view", "toolbar", strValue, strPath);
         return folder.ReadBytes("cl.ini");
     };
     std::string strLargest = "[view]\ntoolbar=old\n";
@@ -244,8 +246,8 @@ TEST_F(Forms, OfSettingsAreLeftAloneBeyond16MiB) {
     strNew.replace(strNew.find("old"), 3, "new");
     EXPECT_TRUE(Write(strLargest, "new") == strNew);
     folder.MakeFolder("folder");
-    WriteINI("view", "toolbar", "0", folder.Path("folder"));
-    WriteINI("view", "toolbar", "0", folder.Path("missing/cl.ini"));
+    WriteINI(files, "view", "toolbar", "0", folder.Path("folder"));
+    WriteINI(files, "view", "toolbar", "0", folder.Path("missing/cl.ini"));
     EXPECT_EQ(folder.Count(), 2);
 }
 
@@ -259,27 +261,27 @@ TEST_F(Forms, OfSettingsAreWrittenByGroups) {
     std::string strGroups;
     for (const SettingsGroup group : {SettingsGroup::Options, SettingsGroup::View,
                                       SettingsGroup::Startup, SettingsGroup::Path}) {
-        SaveSettings(settings, group, folder.Path("group"));
-        SaveSettings(settings, group, strPath);
+        SaveSettings(files, settings, group, folder.Path("group"));
+        SaveSettings(files, settings, group, strPath);
         strGroups += folder.ReadBytes("group") + '\n';
         std::filesystem::last_write_time(strPath, std::filesystem::file_time_type::clock::now() -
                                                       std::chrono::hours(1));
         const auto written = std::filesystem::last_write_time(strPath);
-        SaveSettings(settings, group, strPath);
+        SaveSettings(files, settings, group, strPath);
         EXPECT_EQ(std::filesystem::last_write_time(strPath), written);
         std::filesystem::remove(folder.Path("group"));
     }
     std::erase(strGroups, '\r');
     ExpectFile("store/expected/settings_groups.txt", strGroups);
-    EXPECT_EQ(Describe(LoadSettings(strPath)), Describe(settings));
+    EXPECT_EQ(Describe(LoadSettings(files, strPath)), Describe(settings));
 
     std::filesystem::copy(CELLORA_ASSETS "/cl.ini", folder.Path("shipped"));
     const std::string strShipped = folder.ReadBytes("shipped");
-    settings = LoadSettings(folder.Path("shipped"));
+    settings = LoadSettings(files, folder.Path("shipped"));
     EXPECT_EQ(settings.dblStartup, 1);
     for (const SettingsGroup group :
          {SettingsGroup::Options, SettingsGroup::View, SettingsGroup::Startup, SettingsGroup::Path})
-        SaveSettings(settings, group, folder.Path("shipped"));
+        SaveSettings(files, settings, group, folder.Path("shipped"));
     EXPECT_EQ(folder.ReadBytes("shipped"), strShipped) << "it holds every value";
     settings.dblStartup = 0;
     EXPECT_EQ(Describe(settings), Describe(Settings())) << "it holds the defaults";

@@ -36,7 +36,8 @@ frmHelp::frmHelp(Game& game, QWidget* parent) : Form(game, GetProductName(), {81
     // The wider gap of the style would leave the caption too little room.
     chkStartup_->setStyleSheet(QStringLiteral("spacing: 2px"));
     Place(chkStartup_, 6600, 4765, 1455, 255);
-    chkStartup_->setChecked(std::nearbyint(LoadSettings(GetSettingsFile(game)).dblStartup) == 1);
+    chkStartup_->setChecked(
+        std::nearbyint(LoadSettings(game.files, GetSettingsFile(game)).dblStartup) == 1);
 }
 
 void frmHelp::ShowTab(int intIndex) {
@@ -45,7 +46,7 @@ void frmHelp::ShowTab(int intIndex) {
 
 void frmHelp::done(int intResult) {
     game().settings.dblStartup = chkStartup_->isChecked() ? 1 : 0;
-    SaveSettings(game().settings, SettingsGroup::Startup, GetSettingsFile(game()));
+    SaveSettings(game().files, game().settings, SettingsGroup::Startup, GetSettingsFile(game()));
     Form::done(intResult);
 }
 

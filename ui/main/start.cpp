@@ -11,6 +11,7 @@
 #include "rules/recovery.h"
 #include "store/hall_of_fame_form.h"
 #include "store/program_folder.h"
+#include "store/system_files.h"
 #include "ui/board/board_accessible.h"
 #include "ui/desktop/qt_desktop.h"
 #include "ui/desktop/text.h"
@@ -28,19 +29,19 @@ std::string ReadShippedSettings() {
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 
-void PlaceFiles(const std::string& strFolder) {
+void PlaceFiles(FilePort& files, const std::string& strFolder) {
     const std::string strSettings = ReadShippedSettings();
     const std::string strHallOfFame = FormatHallOfFame(MakeEmptyHallOfFame());
     const std::array aFiles = {ShippedFile{strSettingsFileName, strSettings},
                                ShippedFile{strHallOfFameFileName, strHallOfFame}};
-    PlaceShippedFiles(strFolder, aFiles);
+    PlaceShippedFiles(files, strFolder, aFiles);
 }
 
 } // namespace
 
 Program::Program(std::function<std::string()> fnFindFolder, std::uint64_t lngRandomState)
-    : desktop_(std::make_unique<QtDesktop>()), game_(std::make_unique<Game>(*desktop_)),
-      fnFindFolder_(std::move(fnFindFolder)) {
+    : desktop_(std::make_unique<QtDesktop>()), files_(std::make_unique<SystemFiles>()),
+      game_(std::make_unique<Game>(*desktop_, *files_)), fnFindFolder_(std::move(fnFindFolder)) {
     game_->lngRandomState = lngRandomState;
 }
 
@@ -57,11 +58,11 @@ void Program::Main() {
 void Program::LoadMain() {
     if (main_ == nullptr) {
         game_->strProgramFolder = fnFindFolder_();
-        PlaceFiles(game_->strProgramFolder);
+        PlaceFiles(*files_, game_->strProgramFolder);
         // What the toolkit's own dialogs remember belongs there as well.
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                            ToQString(game_->strProgramFolder));
-        recovery_ = std::make_unique<Recovery>(game_->strProgramFolder);
+        recovery_ = std::make_unique<Recovery>(*files_, game_->strProgramFolder);
         InstallBoardAccessibility();
         InstallControlAccessibility();
         main_ = std::make_unique<frmMain>(*game_, *desktop_, *recovery_);

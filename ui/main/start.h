@@ -7,6 +7,7 @@
 
 namespace cellora {
 
+class FilePort;
 class QtDesktop;
 class Recovery;
 class frmMain;
@@ -35,6 +36,7 @@ private:
     void StartMain();
 
     std::unique_ptr<QtDesktop> desktop_;
+    std::unique_ptr<FilePort> files_;
     std::unique_ptr<Game> game_;
     std::function<std::string()> fnFindFolder_;
     std::unique_ptr<Recovery> recovery_; ///< from the loading of the main window on
