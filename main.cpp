@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "store/process.h"
 #include "store/program_folder.h"
 #include "store/system_files.h"
 #include "ui/desktop/look.h"
@@ -21,6 +22,7 @@ std::uint64_t DrawRandomState() {
 } // namespace
 
 int main(int argc, char** argv) {
+    cellora::IgnoreFileSizeSignal();
     QApplication application(argc, argv);
     QApplication::setApplicationName(cellora::GetProductName());
     QApplication::setQuitOnLastWindowClosed(false);

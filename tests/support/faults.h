@@ -10,20 +10,21 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "store/process.h"
+
 namespace cellora {
 
-/// Runs the routine while no file can grow beyond a size, as on a disk that fills up. A test that
-/// reports a failure meanwhile may lose it.
+/// Runs the routine while no file can grow beyond a size, as on a disk that fills up and in the
+/// program from its start on. A test that reports a failure meanwhile may lose it.
 template <typename Routine>
 auto WithFileSizeLimit(rlim_t lngBytes, Routine fnRun) {
-    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    IgnoreFileSizeSignal();
     rlimit old{};
     getrlimit(RLIMIT_FSIZE, &old);
     const rlimit limit{lngBytes, old.rlim_max};
     setrlimit(RLIMIT_FSIZE, &limit);
     auto result = fnRun();
     setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, oldHandler);
     return result;
 }
 

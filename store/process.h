@@ -1,0 +1,10 @@
+#pragma once
+
+/// What the program asks of the system for itself.
+namespace cellora {
+
+/// From now on a file that may not grow further is a write that fails, as on a full disk, and not
+/// the end of the program. Nothing where the system knows no such limit.
+void IgnoreFileSizeSignal();
+
+} // namespace cellora
