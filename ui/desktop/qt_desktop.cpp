@@ -111,6 +111,7 @@ int QtDesktop::Execute(QDialog& dialog) const {
     if (blnHourglass_)
         QApplication::restoreOverrideCursor();
     const int intResult = dialog.exec();
+    TakeKeyboardBack();
     if (blnHourglass_)
         QApplication::setOverrideCursor(Qt::WaitCursor);
     return intResult;
@@ -163,6 +164,12 @@ void QtDesktop::Run(ModalWindow window, Form& dialog) {
     open_.push_back({window, &dialog});
     dialog.exec();
     open_.pop_back();
+    TakeKeyboardBack();
+}
+
+void QtDesktop::TakeKeyboardBack() const {
+    if (QWidget* const owner = GetOwner())
+        owner->activateWindow();
 }
 
 void QtDesktop::UnloadWindow(ModalWindow window) {

@@ -64,6 +64,8 @@ private:
     QTimer& GetTimer(Timer timer) const;
     void Run(ModalWindow window, Form& dialog);
     int Execute(QDialog& dialog) const;
+    /// After a modal window: where two close at once, a window manager may leave it with neither.
+    void TakeKeyboardBack() const;
 
     Game* game_ = nullptr;
     QPointer<QWidget> window_;
