@@ -9,7 +9,7 @@
 
 namespace cellora {
 
-CellPopup::CellPopup(QWidget* parent) : QMenu(parent) {
+CellPopup::CellPopup(QWidget* parent) : ContextMenu(parent) {
     setObjectName(QStringLiteral("mnuRightClick"));
     setAccessibleName(QStringLiteral("Notes"));
 }
@@ -40,7 +40,7 @@ QAction* CellPopup::AddEntry(const std::string& strCaption, int intDigit) {
 void CellPopup::keyPressEvent(QKeyEvent* event) {
     const int intDigit = GetKeyDigit(GetVirtualKey(*event));
     if (intDigit == 0) {
-        QMenu::keyPressEvent(event);
+        ContextMenu::keyPressEvent(event);
         return;
     }
     if (mnuC_[intDigit - 1]->isVisible()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMenu>
+#include "ui/main/context_menu.h"
 
 namespace cellora {
 
@@ -8,7 +8,7 @@ struct CellPopupView;
 
 /// `mnuRightClick`: the menu of a cell's notes, built each time it opens. Its numbered entries can
 /// be chosen by their digits on the keyboard.
-class CellPopup final : public QMenu {
+class CellPopup final : public ContextMenu {
     Q_OBJECT
 
 public:

@@ -28,6 +28,7 @@
 #include "ui/desktop/version_info.h"
 #include "ui/main/cell_popup.h"
 #include "ui/main/commands.h"
+#include "ui/main/context_menu.h"
 #include "ui/main/layout_pass.h"
 #include "ui/main/number_selector.h"
 #include "ui/main/print.h"
@@ -117,7 +118,7 @@ void frmMain::MakePopups() {
     connect(mnuRightClick_, &CellPopup::digitChosen, this,
             [this](int intDigit) { Do([&](Game& game) { mnuC_Click(game, intDigit); }); });
     connect(mnuRightClick_, &CellPopup::removeAllChosen, this, [this] { Do(mnuRemoveAll_Click); });
-    mnuButton_ = new QMenu(this);
+    mnuButton_ = new ContextMenu(this);
     mnuButton_->setObjectName(QStringLiteral("mnuButton"));
     mnuButton_->setAccessibleName(QStringLiteral("Number"));
     mnuHighlight_ = mnuButton_->addAction(QStringLiteral("Highlight"), this,
