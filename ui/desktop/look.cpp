@@ -1,11 +1,12 @@
 #include "ui/desktop/look.h"
 
 #include <QApplication>
-#include <QPalette>
-#include <QProxyStyle>
+#include <QEvent>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 #include "core/modCommon_Constants.h"
+#include "ui/desktop/program_style.h"
 
 namespace cellora {
 
@@ -53,33 +54,30 @@ constexpr PaletteEntry aPalette[] = {
     {QPalette::Shadow, 0xFF5B6874, 0xFF5B6874},
 };
 
-QPalette MakePalette() {
-    QPalette palette;
-    for (const PaletteEntry& entry : aPalette) {
-        palette.setColor(entry.role, QColor::fromRgb(entry.lngNormal));
-        palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgb(entry.lngDisabled));
-    }
-    // Colours that count as a choice of the player's would give every control a palette of its own,
-    // and the style remembers the pictures of each palette for good.
-    palette.setResolveMask(0);
-    return palette;
+void SetLook() {
+    // The style fills in the colours.
+    QApplication::setPalette(QPalette());
+    QApplication::setFont(MakeFont(8));
 }
 
-/// Fusion in the program's colours, with plain buttons in message boxes as in every other window.
-class ProgramStyle final : public QProxyStyle {
+/// A desktop's theme may give the application its own fonts and colours, at its start and at every
+/// change of the player's settings; they are taken back at once.
+class LookKeeper final : public QObject {
 public:
-    ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    using QObject::QObject;
 
-    using QProxyStyle::polish;
-    /// Called with the colours of the desktop's theme.
-    void polish(QPalette& palette) override { palette = MakePalette(); }
-
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override {
-        if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
-            return 0;
-        return QProxyStyle::styleHint(hint, option, widget, data);
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == qApp && !blnKeeping_ &&
+            (event->type() == QEvent::ApplicationFontChange ||
+             event->type() == QEvent::ApplicationPaletteChange)) {
+            const QScopedValueRollback keeping(blnKeeping_, true);
+            SetLook();
+        }
+        return false;
     }
+
+    bool blnKeeping_ = false;
 };
 
 } // namespace
@@ -90,6 +88,18 @@ QFont MakeFont(double dblPoints, Weight weight) {
 
 QFont MakeSceneFont(double dblPoints, Weight weight) {
     return MakePixelFont(dblPoints * dblTwipsPerPoint, weight);
+}
+
+QPalette MakePalette() {
+    QPalette palette;
+    for (const PaletteEntry& entry : aPalette) {
+        palette.setColor(entry.role, QColor::fromRgb(entry.lngNormal));
+        palette.setColor(QPalette::Disabled, entry.role, QColor::fromRgb(entry.lngDisabled));
+    }
+    // Colours that count as a choice of the player's would give every control a palette of its own,
+    // and the style remembers the pictures of each palette for good.
+    palette.setResolveMask(0);
+    return palette;
 }
 
 QColor ToQColor(std::int32_t lngColor) {
@@ -112,7 +122,8 @@ void SetBackColor(QWidget& pane, std::int32_t lngColor) {
 
 void ApplyLook() {
     QApplication::setStyle(new ProgramStyle);
-    QApplication::setFont(MakeFont(8));
+    SetLook();
+    qApp->installEventFilter(new LookKeeper(qApp));
 }
 
 } // namespace cellora

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 
 class QWidget;
 
@@ -19,6 +20,9 @@ QFont MakeFont(double dblPoints, Weight weight = Weight::Regular);
 /// The same font measured in twips, for the board's scene.
 QFont MakeSceneFont(double dblPoints, Weight weight = Weight::Regular);
 
+/// The program's colours.
+QPalette MakePalette();
+
 /// The toolkit's colour for one of the rules, which has red in its lowest byte, then green, then
 /// blue; and back, without its transparency.
 QColor ToQColor(std::int32_t lngColor);
@@ -28,7 +32,8 @@ std::int32_t ToColor(const QColor& color);
 /// nothing.
 void SetBackColor(QWidget& pane, std::int32_t lngColor);
 
-/// Sets style, palette and default font (8 point) of the application, which exists already.
+/// Sets style, palette and default font (8 point) of the application, which exists already. They
+/// hold from then on, whatever the desktop's theme does. Called once.
 void ApplyLook();
 
 } // namespace cellora

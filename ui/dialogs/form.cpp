@@ -1,12 +1,10 @@
 #include "ui/dialogs/form.h"
 
-#include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 
 #include "core/desktop.h"
-#include "core/levels.h"
 #include "core/modCellora.h"
 #include "ui/desktop/placing.h"
 
@@ -46,14 +44,6 @@ QPushButton* Form::AddButton(QWidget* parent, const QString& strName, const QStr
     button->setObjectName(strName);
     Place(button, dblLeft, dblTop, dblWidth, dblHeight);
     return button;
-}
-
-void Form::FillLevels(QComboBox& box, QLabel& label) {
-    box.setAccessibleName(label.text());
-    box.setMaxVisibleItems(15);
-    for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
-        box.addItem(ToQString(GetLevelName(intLevel)));
-    label.setBuddy(&box);
 }
 
 void Form::ShowHelp() {

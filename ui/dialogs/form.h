@@ -5,7 +5,6 @@
 #include "ui/desktop/text.h"
 #include "ui/desktop/twips.h"
 
-class QComboBox;
 class QLabel;
 class QPushButton;
 
@@ -45,9 +44,6 @@ protected:
     static QPushButton* AddButton(QWidget* parent, const QString& strName,
                                   const QString& strCaption, double dblLeft, double dblTop,
                                   double dblWidth = 1215, double dblHeight = 375);
-
-    /// Fills a list with the names of the 30 levels and ties it to its label.
-    static void FillLevels(QComboBox& box, QLabel& label);
 
     /// Opens the Instructions window over this one.
     void ShowHelp();

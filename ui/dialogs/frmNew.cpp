@@ -1,11 +1,11 @@
 #include "ui/dialogs/frmNew.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 
 #include "core/desktop.h"
 #include "rules/new_game.h"
+#include "ui/dialogs/level_box.h"
 
 namespace cellora {
 
@@ -29,11 +29,13 @@ void frmNew::MakeLabels() {
 }
 
 void frmNew::MakeLevelBox() {
-    QLabel* const Label1 = AddLabel(this, QStringLiteral("Label1"), QStringLiteral("Difficulty"),
-                                    480, 1000, 735, 255, Qt::AlignRight);
-    cboDifficulty_ = new QComboBox(this);
+    QLabel* const Label1 =
+        AddLabel(this, QStringLiteral("Label1"), QStringLiteral("Difficulty"), 480, 1000, 735, 225);
+    // In line with the text in the box.
+    Label1->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    cboDifficulty_ = new LevelBox(this);
     cboDifficulty_->setObjectName(QStringLiteral("cboDifficulty"));
-    FillLevels(*cboDifficulty_, *Label1);
+    cboDifficulty_->SetLabel(*Label1);
     Place(cboDifficulty_, 1440, 960, 1815, 315);
 }
 

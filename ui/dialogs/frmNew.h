@@ -2,9 +2,9 @@
 
 #include "ui/dialogs/form.h"
 
-class QComboBox;
-
 namespace cellora {
+
+class LevelBox;
 
 /// "New Game": the player picks a level, "Level 1" each time. OK puts a new puzzle on the board,
 /// which closes the window. However it closes, the pointer is the hourglass then; the New command
@@ -24,7 +24,7 @@ private:
 
     void cmdOK_Click();
 
-    QComboBox* cboDifficulty_ = nullptr;
+    LevelBox* cboDifficulty_ = nullptr;
 };
 
 } // namespace cellora

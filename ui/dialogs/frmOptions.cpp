@@ -13,6 +13,7 @@
 #include "rules/options.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/pictures.h"
+#include "ui/dialogs/color_swatch.h"
 #include "ui/dialogs/frmCDG.h"
 
 namespace cellora {
@@ -109,10 +110,8 @@ void frmOptions::MakeSlot(QFrame* frame, int intSlotRow, double dblTop) {
                                    QLatin1String(row.strLabel), 150, dblTop, 1275, dblRowHeight);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
-    auto* const swatch = new QFrame(frame);
+    auto* const swatch = new ColorSwatch(frame);
     swatch->setObjectName(QLatin1String(row.strSwatch));
-    swatch->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    swatch->setAutoFillBackground(true);
     Place(swatch, dblSwatchLeft, dblTop, dblSwatchWidth, dblRowHeight);
     picColor_[row.slot] = swatch;
 
@@ -166,12 +165,8 @@ void frmOptions::Form_Load() {
 }
 
 void frmOptions::ShowColor(ColorSlot slot) {
-    QFrame* const swatch = picColor_[slot];
     const QColor color = ToQColor(options_.colors[slot]);
-    QPalette palette = swatch->palette();
-    palette.setColor(QPalette::Window, color);
-    swatch->setPalette(palette);
-    swatch->setAccessibleDescription(color.name());
+    picColor_[slot]->SetColor(color);
     cmdColor_[slot]->setAccessibleDescription(color.name());
 }
 

@@ -11,6 +11,7 @@ class QTabWidget;
 
 namespace cellora {
 
+class ColorSwatch;
 struct Settings;
 
 /// The Options dialog: eight colours and the disappearing cursor. The game changes only with "OK"
@@ -37,7 +38,7 @@ private:
     void Apply();
 
     Settings options_; ///< what the window shows
-    std::array<QFrame*, lngColorSlotCount> picColor_{};
+    std::array<ColorSwatch*, lngColorSlotCount> picColor_{};
     std::array<QPushButton*, lngColorSlotCount> cmdColor_{};
     QCheckBox* chkCursor_ = nullptr;
     QPushButton* cmdApply_ = nullptr;

@@ -4,7 +4,6 @@
 #include <iterator>
 #include <string>
 
-#include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QProxyStyle>
@@ -18,6 +17,8 @@
 #include "rules/hall_of_fame.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/pictures.h"
+#include "ui/desktop/program_style.h"
+#include "ui/dialogs/level_box.h"
 
 namespace cellora {
 
@@ -42,7 +43,7 @@ constexpr Column aColumns[] = {columnRank, columnName, columnTime};
 /// Room at both sides of every cell and header.
 class ListStyle final : public QProxyStyle {
 public:
-    ListStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    ListStyle() : QProxyStyle(new ProgramStyle) {}
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override {
@@ -87,11 +88,11 @@ QWidget* frmTopTen::MakeLevelBox(QWidget* page) {
     layout->setContentsMargins(0, 0, 0, 0);
     auto* const lblLevel = new QLabel(QStringLiteral("Difficulty Level"), row);
     lblLevel->setObjectName(QStringLiteral("lblLevel"));
-    cboLevel_ = new QComboBox(row);
+    cboLevel_ = new LevelBox(row);
     cboLevel_->setObjectName(QStringLiteral("cboLevel"));
     cboLevel_->setMinimumWidth(ToPixels(1815));
-    FillLevels(*cboLevel_, *lblLevel);
-    connect(cboLevel_, &QComboBox::currentIndexChanged, this, &frmTopTen::cboLevel_Click);
+    cboLevel_->SetLabel(*lblLevel);
+    connect(cboLevel_, &LevelBox::currentIndexChanged, this, &frmTopTen::cboLevel_Click);
     layout->addWidget(lblLevel);
     layout->addWidget(cboLevel_);
     layout->addStretch();

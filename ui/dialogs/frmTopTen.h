@@ -2,11 +2,11 @@
 
 #include "ui/dialogs/form.h"
 
-class QComboBox;
 class QTreeWidget;
 
 namespace cellora {
 
+class LevelBox;
 struct HallOfFameEntry;
 
 /// "Top Ten": the best times of one level. It opens on the highest level that has any.
@@ -32,7 +32,7 @@ private:
     void cboLevel_Click();
     void cmdReset_Click();
 
-    QComboBox* cboLevel_ = nullptr;
+    LevelBox* cboLevel_ = nullptr;
     QTreeWidget* lvwTopTen_ = nullptr;
 };
 

@@ -1,0 +1,158 @@
+#include "ui/desktop/program_style.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyleOption>
+#include <QWidget>
+
+#include "ui/desktop/crisp.h"
+#include "ui/desktop/look.h"
+#include "ui/desktop/pictures.h"
+
+namespace cellora {
+
+namespace {
+
+constexpr int intLongestAnimation = 150; ///< milliseconds
+constexpr int intMessageIconSize = 32;
+constexpr int intRingInset = 2; ///< of a button, whose own edge tells something else
+
+bool HasKeyboard(const QStyleOption& option) {
+    return option.state.testFlag(QStyle::State_HasFocus) &&
+           option.state.testFlag(QStyle::State_KeyboardFocusChange);
+}
+
+void DrawRing(QPainter& painter, const QStyleOption& option, int intInset) {
+    DrawFocusRing(painter, option.rect.adjusted(intInset, intInset, -intInset, -intInset),
+                  option.palette.color(QPalette::Highlight));
+}
+
+QString GetMessageIconName(QStyle::StandardPixmap which) {
+    switch (which) {
+    case QStyle::SP_MessageBoxQuestion:
+        return QStringLiteral("msg_question");
+    case QStyle::SP_MessageBoxInformation:
+        return QStringLiteral("msg_information");
+    case QStyle::SP_MessageBoxWarning:
+    case QStyle::SP_MessageBoxCritical:
+        return QStringLiteral("msg_exclamation");
+    default:
+        return {};
+    }
+}
+
+/// In the column that the toolkit leaves for its own mark.
+void DrawTick(QPainter& painter, const QStyleOptionMenuItem& item) {
+    const int intColumn = std::max(item.maxIconWidth, 21);
+    const QRect place = QStyle::alignedRect(item.direction, Qt::AlignLeft | Qt::AlignVCenter,
+                                            {intColumn, item.rect.height()}, item.rect);
+    const bool blnSelected = item.state.testFlag(QStyle::State_Selected);
+    const QPalette::ColorGroup group =
+        item.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QRectF(place).center());
+    painter.setPen(
+        QPen(item.palette.color(group, blnSelected ? QPalette::HighlightedText : QPalette::Text),
+             1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    constexpr QPointF aTick[] = {{-3.5, 0.25}, {-1, 2.75}, {4, -3}};
+    painter.drawPolyline(aTick, 3);
+    painter.restore();
+}
+
+bool IsTicked(const QStyleOptionMenuItem& item) {
+    return item.checkType == QStyleOptionMenuItem::NonExclusive && item.checked;
+}
+
+} // namespace
+
+ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+/// Called with the colours of the desktop's theme.
+void ProgramStyle::polish(QPalette& palette) {
+    palette = MakePalette();
+}
+
+void ProgramStyle::polish(QWidget* widget) {
+    // A theme that changes brings its fonts for menus, boxes and tips back, and nobody is told.
+    if (!QApplication::font(widget).isCopyOf(QApplication::font()))
+        QApplication::setFont(MakeFont(8));
+    if (widget->inherits("QTipLabel"))
+        widget->setPalette(MakePalette());
+    QProxyStyle::polish(widget);
+}
+
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* data) const {
+    switch (hint) {
+    case SH_DialogButtonBox_ButtonsHaveIcons: // plain buttons, as in every other window
+    case SH_ComboBox_Popup:                   // a list that scrolls, not a menu of all its rows
+        return 0;
+    case SH_Widget_Animation_Duration: // none where the desktop wants none
+        return std::min(QProxyStyle::styleHint(hint, option, widget, data), intLongestAnimation);
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+}
+
+int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                              const QWidget* widget) const {
+    return metric == PM_MessageBoxIconSize ? intMessageIconSize
+                                           : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                 const QWidget* widget) const {
+    const QString strName = GetMessageIconName(which);
+    return strName.isEmpty() ? QProxyStyle::standardIcon(which, option, widget) : MakeIcon(strName);
+}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const {
+    switch (element) {
+    case PE_FrameFocusRect:
+        if (option->state.testFlag(State_KeyboardFocusChange))
+            DrawRing(*painter, *option, 0);
+        break;
+    case PE_Frame:
+        DrawCrispFrame(*painter, option->rect, option->palette.color(QPalette::Mid));
+        if (HasKeyboard(*option))
+            DrawRing(*painter, *option, 0);
+        break;
+    case PE_FrameLineEdit:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (HasKeyboard(*option))
+            DrawRing(*painter, *option, 0);
+        break;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+    if (const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        item != nullptr && element == CE_MenuItem &&
+        item->checkType == QStyleOptionMenuItem::NonExclusive) {
+        QStyleOptionMenuItem plain = *item;
+        plain.checkType = QStyleOptionMenuItem::NotCheckable;
+        QProxyStyle::drawControl(element, &plain, painter, widget);
+        if (IsTicked(*item))
+            DrawTick(*painter, *item);
+        return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_PushButton && HasKeyboard(*option))
+        DrawRing(*painter, *option, intRingInset);
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if ((control == CC_ComboBox || control == CC_SpinBox) && HasKeyboard(*option))
+        DrawRing(*painter, *option, control == CC_ComboBox ? intRingInset : 0);
+}
+
+} // namespace cellora
