@@ -24,7 +24,7 @@ namespace cellora {
 
 namespace {
 
-// In KiB, after the first tenth of the games.
+// In KiB, after the first tenth of the games and ten at least.
 constexpr double dblMostGrowth = 256;
 constexpr double dblGrowthPerDialog = 3; ///< the toolkit's own, at each opening of a file dialog
 
@@ -50,7 +50,7 @@ TEST(Soak, TheWindowShowsWhatTheGameSays) {
     std::cout << intGames << " games with seed " << lngSeed << std::endl;
     RunningProgram run;
     const auto fnPlayGame = MakeRandomPlayer(run, lngSeed);
-    const int intFirst = std::max(1, intGames / 10);
+    const int intFirst = std::min(intGames, std::max(10, intGames / 10)); // until all is warm
     Played played;
     Played first;
     double dblFirst = 0;
