@@ -5,9 +5,10 @@
 #include <QPainter>
 
 #include "rules/view.h"
+#include "ui/desktop/crisp.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/look.h"
-#include "ui/desktop/pictures.h"
+#include "ui/desktop/snap.h"
 #include "ui/desktop/twips.h"
 
 namespace cellora {
@@ -18,7 +19,7 @@ constexpr double dblButtonSize = 390;
 constexpr double dblButtonTop = 105;
 constexpr double dblFirstLeft = 480;
 constexpr double dblButtonPitch = 600;
-constexpr int intDigitSize = 24;
+constexpr double dblFocusInset = 2; ///< in pixels
 
 } // namespace
 
@@ -36,8 +37,15 @@ NumberSelectorButton::NumberSelectorButton(int intNumber, QWidget* parent)
             [this] { emit released(false, GetPopupPosition()); });
     // The keyboard stays with the grid when the mouse is used here.
     setFocusPolicy(Qt::TabFocus);
-    setGeometry(ToPixelRect(dblFirstLeft + dblButtonPitch * (intNumber - 1), dblButtonTop,
-                            dblButtonSize, dblButtonSize));
+    SetZoom(1);
+}
+
+void NumberSelectorButton::SetZoom(double dblZoom) {
+    dblZoom_ = dblZoom;
+    const double dblLeft = dblFirstLeft + dblButtonPitch * (intNumber_ - 1);
+    const double dblSize = dblButtonSize * dblZoom;
+    setGeometry(ToPixelRect(dblLeft * dblZoom, dblButtonTop * dblZoom, dblSize, dblSize));
+    update();
 }
 
 void NumberSelectorButton::Mirror(const NumberButtonView& button) {
@@ -47,9 +55,11 @@ void NumberSelectorButton::Mirror(const NumberButtonView& button) {
     }
     if (button.blnShaded != blnShaded_)
         setAccessibleDescription(button.blnShaded ? QStringLiteral("complete") : QString());
-    if (button.blnFramed == blnFramed_ && button.blnShaded == blnShaded_)
+    if (button.blnFramed == blnFramed_ && button.blnShaded == blnShaded_ &&
+        button.lngFrameColor == lngFrameColor_)
         return;
     blnFramed_ = button.blnFramed;
+    lngFrameColor_ = button.lngFrameColor;
     blnShaded_ = button.blnShaded;
     update();
 }
@@ -63,20 +73,18 @@ QString NumberSelectorButton::GetPictureName() const {
 
 void NumberSelectorButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QSize size(intDigitSize, intDigitSize);
-    QRect rectPicture(QPoint(), size);
-    rectPicture.moveCenter(rect().center());
-    painter.drawPixmap(rectPicture, MakePixmap(GetPictureName(), size, devicePixelRatioF()));
-    // Half a pixel inside, so that no side falls outside at a fractional scale.
-    const QRectF rectFrame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    if (blnFramed_) {
-        painter.setPen(QPen(Qt::black, 1));
-        painter.drawRect(rectFrame);
-    }
-    if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
-        painter.drawRect(rectFrame.adjusted(1, 1, -1, -1));
-    }
+    // The frame's room stays free on every side, framed or not.
+    const double dblLine = SnapWidth(painter, dblZoom_);
+    const QRectF rectFrame = SnapInside(painter, rect());
+    const QRectF rectPicture = rectFrame.adjusted(dblLine, dblLine, -dblLine, -dblLine);
+    DrawPicture(painter, rectPicture, GetPictureName());
+    if (blnFramed_)
+        DrawFrame(painter, rectFrame, ToQColor(lngFrameColor_), dblZoom_);
+    // Within the tile, whose light face is the same on every desk.
+    const double dblInset = dblFocusInset * dblZoom_;
+    if (hasFocus())
+        DrawFocusRing(painter, rectPicture.adjusted(dblInset, dblInset, -dblInset, -dblInset),
+                      palette().color(QPalette::WindowText));
 }
 
 void NumberSelectorButton::mousePressEvent(QMouseEvent* event) {
@@ -123,6 +131,11 @@ NumberSelector::NumberSelector(QWidget* parent) : QWidget(parent) {
                 });
     }
     hide();
+}
+
+void NumberSelector::SetZoom(double dblZoom) {
+    for (NumberSelectorButton* const button : picButton_)
+        button->SetZoom(dblZoom);
 }
 
 void NumberSelector::Mirror(const View& view) {

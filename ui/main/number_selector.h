@@ -20,6 +20,9 @@ public:
 
     void Mirror(const NumberButtonView& button);
 
+    /// Place and size in the row at that zoom; 1 is the design's size.
+    void SetZoom(double dblZoom);
+
 signals:
     /// A release over the button, or its press by keyboard; the position is on the screen.
     void released(bool blnRightButton, QPoint globalPosition);
@@ -37,8 +40,10 @@ private:
     QPoint GetPopupPosition() const;
 
     int intNumber_;
+    double dblZoom_ = 1;
     bool blnFramed_ = false;
     bool blnShaded_ = false;
+    Color lngFrameColor_ = lngColorBlack;
 };
 
 /// `picButtons`: the row of ten number buttons.
@@ -50,6 +55,10 @@ public:
 
     /// Buttons, background, enabling and visibility.
     void Mirror(const View& view);
+
+    /// Lays the buttons out for that zoom; 1 is the design's size. The row's own place and size are
+    /// the window's.
+    void SetZoom(double dblZoom);
 
 signals:
     /// A button 1 to 10 was released; the position is on the screen.

@@ -6,11 +6,9 @@
 #include <QPainter>
 
 #include "rules/view.h"
-#include "ui/desktop/look.h"
-#include "ui/desktop/pictures.h"
+#include "ui/desktop/snap.h"
 #include "ui/desktop/text.h"
 #include "ui/desktop/twips.h"
-#include "ui/main/layout_pass.h"
 
 namespace cellora {
 
@@ -40,16 +38,8 @@ constexpr double dblTitleLeft = 135;
 constexpr double dblTitleRight = 2175;
 constexpr double dblValueLeft = 2400;
 constexpr double dblFrameInset = 120;
-
-QLabel* MakeLabel(QWidget* parent, const QString& strText, QRect rect, const QFont& font,
-                  Qt::Alignment alignment) {
-    auto* const label = new QLabel(strText, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setFont(font);
-    label->setAlignment(alignment | Qt::AlignVCenter);
-    label->setGeometry(rect);
-    return label;
-}
+constexpr double dblHairlineInset = 360;
+constexpr double dblHairlineOpacity = 0.15;
 
 /// The labels have the text colour of the pane they lie in.
 void SetTextColor(QWidget& pane, const QColor& color) {
@@ -65,23 +55,44 @@ void SetTextColor(QWidget& pane, const QColor& color) {
 StatisticsPane::StatisticsPane(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("picStatistics"));
     setAccessibleName(QStringLiteral("Statistics"));
-    MakeLabel(this, QStringLiteral("Statistics"), ToPixelRect(120, 1440, 3495, 375),
-              MakeFont(12, Weight::Bold), Qt::AlignHCenter);
+    AddLabel(QStringLiteral("Statistics"), {120, 1440, 3495, 375}, {12, Weight::Bold},
+             Qt::AlignHCenter);
     for (int intRow = 0; intRow < static_cast<int>(std::size(aRows)); ++intRow)
         AddRow(intRow);
+    SetZoom(1);
     hide();
+}
+
+void StatisticsPane::SetZoom(double dblZoom) {
+    dblZoom_ = dblZoom;
+    for (const PlacedLabel& label : labels_) {
+        const QRectF& rect = label.rectTwips;
+        label.label->setGeometry(ToPixelRect(rect.x() * dblZoom, rect.y() * dblZoom,
+                                             rect.width() * dblZoom, rect.height() * dblZoom));
+        label.label->setFont(MakeFont(label.font.dblPoints * dblZoom, label.font.weight));
+    }
+    update();
+}
+
+QLabel* StatisticsPane::AddLabel(const QString& strText, const QRectF& rectTwips, LabelFont font,
+                                 Qt::Alignment alignment) {
+    auto* const label = new QLabel(strText, this);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(alignment | Qt::AlignVCenter);
+    labels_.push_back({label, rectTwips, font});
+    return label;
 }
 
 void StatisticsPane::AddRow(int intRow) {
     const RowDesign& design = aRows[intRow];
     const double dblTop = dblFirstTop + dblRowPitch * intRow;
     QLabel* const title =
-        MakeLabel(this, QLatin1String(design.strTitle),
-                  ToPixelRect(dblTitleLeft, dblTop, dblTitleRight - dblTitleLeft, dblRowHeight),
-                  MakeFont(9.75, Weight::Bold), Qt::AlignRight);
-    QLabel* const value = MakeLabel(
-        this, QString(), ToPixelRect(dblValueLeft, dblTop, design.intValueWidth, dblRowHeight),
-        MakeFont(9.75), Qt::AlignLeft);
+        AddLabel(QLatin1String(design.strTitle),
+                 {dblTitleLeft, dblTop, dblTitleRight - dblTitleLeft, dblRowHeight},
+                 {9.75, Weight::Bold}, Qt::AlignRight);
+    QLabel* const value = AddLabel(
+        {}, {dblValueLeft, dblTop, static_cast<double>(design.intValueWidth), dblRowHeight},
+        {9.75, Weight::Regular}, Qt::AlignLeft);
     value->setObjectName(QLatin1String(design.strName));
     if (design.caption == nullptr) {
         value->setText(QString::number(intCellCount));
@@ -119,14 +130,26 @@ void StatisticsPane::MirrorColors(const StatisticsView& statistics) {
 }
 
 void StatisticsPane::paintEvent(QPaintEvent*) {
-    const QRect rectFrame =
-        ToPixelRect(dblFrameInset, dblFrameInset, dblStatisticsWidth - 2 * dblFrameInset,
-                    dblGridSize - 2 * dblFrameInset);
+    const double dblInset = dblFrameInset * dblZoom_ / intTwipsPerPixel;
+    const QRectF rectFrame = QRectF(rect()).adjusted(dblInset, dblInset, -dblInset, -dblInset);
     QPainter painter(this);
-    painter.drawPixmap(rectFrame.topLeft(), MakePixmap(QStringLiteral("statistics"),
-                                                       rectFrame.size(), devicePixelRatioF()));
-    painter.setPen(ToQColor(lngFrameColor_));
-    painter.drawRect(rectFrame.adjusted(0, 0, -1, -1));
+    DrawPicture(painter, rectFrame, QStringLiteral("statistics"));
+    DrawFrame(painter, rectFrame, ToQColor(lngFrameColor_), dblZoom_);
+    DrawHairlines(painter);
+}
+
+void StatisticsPane::DrawHairlines(QPainter& painter) const {
+    const double dblScale = dblZoom_ / intTwipsPerPixel;
+    const double dblLine = SnapWidth(painter, dblZoom_);
+    QColor color = palette().color(QPalette::WindowText);
+    color.setAlphaF(dblHairlineOpacity);
+    for (int intRow = 1; intRow < static_cast<int>(std::size(aRows)); ++intRow) {
+        const double dblTop = dblFirstTop + dblRowPitch * (intRow - 0.5) + dblRowHeight / 2;
+        const QRectF rectLine =
+            SnapInside(painter, {dblHairlineInset * dblScale, dblTop * dblScale,
+                                 width() - 2 * dblHairlineInset * dblScale, 2 * dblLine});
+        painter.fillRect(QRectF(rectLine.topLeft(), QSizeF(rectLine.width(), dblLine)), color);
+    }
 }
 
 } // namespace cellora

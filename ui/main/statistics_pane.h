@@ -4,7 +4,10 @@
 #include <string>
 #include <vector>
 
+#include <QRectF>
 #include <QWidget>
+
+#include "ui/desktop/look.h"
 
 class QLabel;
 
@@ -23,6 +26,10 @@ public:
     /// Values, colours and visibility.
     void Mirror(const View& view);
 
+    /// Lays the labels out for that zoom; 1 is the design's size. The pane's own place and size are
+    /// the window's.
+    void SetZoom(double dblZoom);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
@@ -33,11 +40,28 @@ private:
         std::string StatisticsView::*caption; ///< null where the value never changes
     };
 
+    struct LabelFont {
+        double dblPoints;
+        Weight weight;
+    };
+
+    /// As it is by design.
+    struct PlacedLabel {
+        QLabel* label;
+        QRectF rectTwips;
+        LabelFont font;
+    };
+
+    QLabel* AddLabel(const QString& strText, const QRectF& rectTwips, LabelFont font,
+                     Qt::Alignment alignment);
     void AddRow(int intRow);
     void MirrorRows(const StatisticsView& statistics);
     void MirrorColors(const StatisticsView& statistics);
+    void DrawHairlines(QPainter& painter) const;
 
+    std::vector<PlacedLabel> labels_;
     std::vector<Row> rows_;
+    double dblZoom_ = 1;
     std::int32_t lngFrameColor_ = 0;
 };
 

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+
+class QColor;
+class QPainter;
+
+/// Drawing on whole device pixels, so that lines of one kind are equally wide and no side is lost
+/// at a fractional scale.
+namespace cellora {
+
+/// The largest rectangle of whole device pixels that lies in another one; both in the painter's
+/// measure, which is not rotated.
+QRectF SnapInside(const QPainter& painter, const QRectF& rect);
+
+/// The width of a line of that many units of the painter's measure, in the same measure: whole
+/// device pixels, one of them at least.
+double SnapWidth(const QPainter& painter, double dblWidth);
+
+/// A line along the inner edge of a rectangle, as wide on every side. Both are snapped.
+void DrawFrame(QPainter& painter, const QRectF& rect, const QColor& color, double dblWidth = 1);
+
+/// The picture of that name drawn from its vectors into a snapped rectangle.
+void DrawPicture(QPainter& painter, const QRectF& rect, const QString& strName);
+
+} // namespace cellora
