@@ -1,0 +1,65 @@
+#include "store/background_writer.h"
+
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+namespace cellora {
+
+struct BackgroundWriter::Queue {
+    std::mutex mutex; ///< for all that follows
+    std::condition_variable changed;
+    Write fnNext;
+    bool blnBusy = false;
+    bool blnEnding = false;
+
+    bool IsDone() const { return !blnBusy && !fnNext; }
+};
+
+BackgroundWriter::BackgroundWriter() = default;
+
+BackgroundWriter::~BackgroundWriter() {
+    if (queue_ == nullptr)
+        return;
+    const std::lock_guard lock(queue_->mutex);
+    queue_->fnNext = nullptr;
+    queue_->blnEnding = true;
+    queue_->changed.notify_all();
+}
+
+void BackgroundWriter::Do(Write fnWrite) {
+    if (queue_ == nullptr) {
+        queue_ = std::make_shared<Queue>();
+        std::thread([queue = queue_] { Run(*queue); }).detach();
+    }
+    const std::lock_guard lock(queue_->mutex);
+    queue_->fnNext = std::move(fnWrite);
+    queue_->changed.notify_all();
+}
+
+bool BackgroundWriter::Wait(std::chrono::milliseconds msLongest) {
+    if (queue_ == nullptr)
+        return true;
+    std::unique_lock lock(queue_->mutex);
+    return queue_->changed.wait_for(lock, msLongest, [this] { return queue_->IsDone(); });
+}
+
+void BackgroundWriter::Run(Queue& queue) {
+    std::unique_lock lock(queue.mutex);
+    for (;;) {
+        queue.changed.wait(lock, [&] { return queue.fnNext || queue.blnEnding; });
+        if (queue.blnEnding)
+            return;
+        Write fnWrite = std::exchange(queue.fnNext, nullptr);
+        queue.blnBusy = true;
+        lock.unlock();
+        fnWrite();
+        fnWrite = nullptr; // with all that it holds
+        lock.lock();
+        queue.blnBusy = false;
+        queue.changed.notify_all();
+    }
+}
+
+} // namespace cellora
