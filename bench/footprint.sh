@@ -68,10 +68,10 @@ xdotool key ctrl+n
 sleep 1
 xdotool key Return
 for ((tries = 0; tries < 100; ++tries)); do # A second after the game has begun it is kept.
-    [[ ! -e $work/recovery.clp ]] || break
+    [[ ! -e $work/.recovery/copy-1 ]] || break
     sleep 0.1
 done
-[[ -e $work/recovery.clp ]] || { echo "footprint: no game was started" >&2; exit 1; }
+[[ -e $work/.recovery/copy-1 ]] || { echo "footprint: no game was started" >&2; exit 1; }
 sleep 1
 read -r game_resident game_anonymous < <(memory "$game")
 row "game on board" "$game_resident" "$game_anonymous" "$(idle_time "$game")"

@@ -24,7 +24,7 @@ printf '[general]\r\nstartup=0\r\n' >"$work/cl.ini" # The Instructions stay clos
 # start_time PROGRAM [CHANGES]: prints the milliseconds of one start. What a killed copy left behind
 # is no part of a usual start.
 start_time() {
-    rm -f "$work"/recovery*
+    rm -rf "$work"/.recovery
     "$build/bench/cellora_first_paint" "$@"
 }
 

@@ -22,6 +22,8 @@ void ResetCandidate(Game& game) {
 void DoEnable(Game& game) {
     game.cmdFinished = FinishButton::Hidden;
     game.blnSolvedByComputer = false;
+    game.blnSaveOwed = false;
+    ++game.intGames;
 }
 
 } // namespace cellora

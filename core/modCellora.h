@@ -33,6 +33,16 @@ struct Traces {
     Numbered<bool, 9> blnShaded;         ///< the digits seen in all regions at the last check
 };
 
+/// The place among the best times that a finished game has earned and that is neither taken nor
+/// given up yet.
+struct WaitingScore {
+    bool blnWaits = false;
+    std::string strName;       ///< as it is about to be entered, else empty
+    std::int16_t intEqual = 0; ///< entries of that name and time that were there before
+
+    bool operator==(const WaitingScore&) const = default;
+};
+
 struct Game {
     Game(Desktop& desktopOfProgram, FilePort& filesOfProgram)
         : desktop(desktopOfProgram), files(filesOfProgram) {}
@@ -66,6 +76,9 @@ struct Game {
     bool blnLoadingGame = false; ///< an opened game is being checked; its end needs no messages
     bool blnFitWindow = false;   ///< the window is kept as small as the grid allows
     std::string strGameFile;     ///< empty until the game is saved or opened
+    int intGames = 0;            ///< how many games were put on the board
+    bool blnSaveOwed = false;    ///< changes that the player did not give up could not be saved
+    WaitingScore score;
     std::int16_t intCursorCell = intCenterCell;
     std::int16_t intPrevCursorCell = intCenterCell;
     std::int16_t intSelectedNumber = 1;
@@ -82,7 +95,7 @@ void ResetGrid(Game& game);
 void ResetCandidate(Game& game);
 
 /// Readies the game's commands for a game that was put on the board: hides the finish button and
-/// takes back "solved by computer".
+/// takes back "solved by computer"; counts it.
 void DoEnable(Game& game);
 
 } // namespace cellora

@@ -64,11 +64,20 @@ void EndWithMistakes(Game& game, int intMistakes) {
 void EndFaultless(Game& game) {
     if (game.blnLoadingGame)
         return;
-    if (GetRank(game) <= LevelEntries::size())
+    game.score.blnWaits = GetRank(game) <= LevelEntries::size();
+    if (game.score.blnWaits)
         game.desktop.ShowModal(ModalWindow::frmEnterName);
     else
         game.desktop.Announce("Congratulations!", GetConsolationMessage(game),
                               MessageIcon::Information);
+    game.score = {};
+}
+
+std::int16_t CountEqualEntries(const Game& game, const std::string& strName) {
+    LevelEntries entries;
+    ReadHallOfFame(game, GetCurrentLevel(game), entries);
+    return static_cast<std::int16_t>(std::ranges::count(
+        entries, HallOfFameEntry{strName, game.lngHours, game.lngMinutes, game.lngSeconds}));
 }
 
 void EndGame(Game& game) {
@@ -95,6 +104,20 @@ void DoCellCount(Game& game) {
     game.desktop.EnableTimer(Timer::tmr, false);
     EndGame(game);
     game.phase = Phase::Finished;
+}
+
+void NoteName(Game& game, const std::string& strName) {
+    game.score.strName = strName;
+    game.score.intEqual = CountEqualEntries(game, strName);
+}
+
+void EndWaitingGame(Game& game) {
+    const WaitingScore& score = game.score;
+    const bool blnTaken =
+        !score.strName.empty() && CountEqualEntries(game, score.strName) > score.intEqual;
+    if (game.phase == Phase::Finished && CountMistakes(game) == 0 && !blnTaken)
+        EndFaultless(game);
+    game.score = {};
 }
 
 std::int16_t CountMistakes(const Game& game) {

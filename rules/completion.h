@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 /// The counts of the statistics pane and the end of a game.
 namespace cellora {
@@ -10,6 +11,13 @@ struct Game;
 /// Recounts the cells and, when none is empty, ends the game: stops the clock, announces the
 /// result and locks the board. Everything after a box runs once the box is closed.
 void DoCellCount(Game& game);
+
+/// Notes with the waiting score the name it is about to be entered with. Kept on disk before the
+/// entry is made, it tells after a crash whether it was made.
+void NoteName(Game& game, const std::string& strName);
+
+/// Ends a finished game again whose score was left waiting, unless its entry was made all the same.
+void EndWaitingGame(Game& game);
 
 /// The entries that differ from the solution, over all 81 cells.
 std::int16_t CountMistakes(const Game& game);

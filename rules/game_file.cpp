@@ -29,6 +29,7 @@ Answer OfferToSave(Game& game, MessageButtons buttons) {
                                      .buttons = buttons});
     if (answer == Answer::Yes)
         SaveGame(game);
+    game.blnSaveOwed = answer == Answer::Yes && game.blnGameChanged;
     return answer;
 }
 

@@ -1,11 +1,13 @@
 #include "rules/recovery.h"
 
 #include <algorithm>
+#include <chrono>
+#include <optional>
 #include <utility>
-#include <vector>
 
 #include "core/desktop.h"
 #include "core/modCellora.h"
+#include "rules/completion.h"
 #include "rules/game_file.h"
 #include "store/modCommon_File.h"
 
@@ -15,49 +17,96 @@ namespace {
 
 constexpr int intMaxCopies = 9;
 constexpr int intTicksBetweenWrites = 10;
+constexpr std::chrono::milliseconds msLongestWait{2000};
 
-std::vector<std::string> GetFiles(const std::string& strFolder) {
-    std::vector<std::string> files = {JoinPath(strFolder, "recovery.clp")};
-    for (int intCopy = 2; intCopy <= intMaxCopies; ++intCopy)
-        files.push_back(JoinPath(strFolder, "recovery-" + std::to_string(intCopy) + ".clp"));
-    return files;
+bool IsOwed(const Game& game) {
+    return game.blnGameActive() && game.blnGameChanged && game.blnSaveOwed;
 }
 
-bool AskToRestore(Game& game) {
+bool NeedsCopy(const Game& game) {
+    return game.IsInPlay() || game.score.blnWaits || IsOwed(game);
+}
+
+/// Something is there or may be there.
+bool MayExist(FilePort& files, const std::string& strPath) {
+    PathStatus status;
+    return files.GetStatus(strPath, status) || status.kind != PathKind::Missing;
+}
+
+Answer AskToRestore(Game& game) {
     return game.desktop.ShowMessageBox(
-               {.strTitle = "Restore Game?",
-                .strText = "Cellora was closed before your last game was finished." +
-                           std::string(strParagraphBreak) + "Do you want to go on with it?",
-                .icon = MessageIcon::Question,
-                .buttons = MessageButtons::YesNo}) == Answer::Yes;
+        {.strTitle = "Restore Game?",
+         .strText = "Cellora was closed before your last game was finished or saved." +
+                    std::string(strParagraphBreak) +
+                    "Do you want to go on with it? No gives it up; Cancel asks again at the next "
+                    "start.",
+         .icon = MessageIcon::Question,
+         .buttons = MessageButtons::YesNoCancel});
+}
+
+void TellOfCopy(Game& game, const std::string& strReason, std::string_view strAdvice) {
+    game.desktop.Announce("Restore Game",
+                          "A game that was kept for you cannot be restored. " + strReason +
+                              std::string(strParagraphBreak) + std::string(strAdvice),
+                          MessageIcon::Exclamation);
 }
 
 } // namespace
 
-Recovery::Recovery(FilePort& files, const std::string& strProgramFolder) : files_(files) {
-    const std::vector<std::string> paths = GetFiles(strProgramFolder);
-    for (const bool blnLeftBehind : {true, false}) {
-        for (const std::string& strFile : paths) {
-            if (FileExists(files_, strFile) == blnLeftBehind && TakeFile(strFile))
-                return;
-        }
-    }
+Recovery::Recovery(FilePort& files, const std::string& strProgramFolder)
+    : files_(files), strFolder_(JoinPath(strProgramFolder, ".recovery")),
+      strOldFolder_(strProgramFolder) {}
+
+Recovery::~Recovery() {
+    Wait();
 }
 
-bool Recovery::TakeFile(const std::string& strFile) {
-    auto lock = std::make_unique<FileLock>(files_, strFile);
-    if (lock->TryLock(0) != LockOutcome::Locked)
-        return false;
-    lock_ = std::move(lock);
-    strFile_ = strFile;
-    return true;
+bool Recovery::Wait() {
+    return writer_.Wait(msLongestWait);
+}
+
+std::string Recovery::GetFile(int intCopy) const {
+    return JoinPath(strFolder_, "copy-" + std::to_string(intCopy));
+}
+
+std::shared_ptr<Recovery::Place> Recovery::Lock(const std::string& strFile) {
+    auto place = std::make_shared<Place>(files_, strFile);
+    return place->lock.TryLock(0) == LockOutcome::Locked ? place : nullptr;
+}
+
+bool Recovery::TakePlace() {
+    if (place_ == nullptr)
+        files_.MakeFolder(strFolder_);
+    for (int intCopy = 1; intCopy <= intMaxCopies && place_ == nullptr; ++intCopy) {
+        const std::string strFile = GetFile(intCopy);
+        if (!MayExist(files_, strFile))
+            place_ = Lock(strFile);
+        // Another copy of the program may have come and gone in between.
+        if (place_ != nullptr && MayExist(files_, strFile))
+            place_ = nullptr;
+    }
+    return place_ != nullptr;
+}
+
+/// The copy stays as it is, and this run goes on in another place.
+void Recovery::LeavePlace() {
+    Wait();
+    place_ = nullptr;
+    blnWritten_ = false;
 }
 
 void Recovery::Observe(Game& game) {
-    if (!game.IsInPlay()) {
-        if (blnWritten_)
-            Remove();
+    if (blnEnded_)
         return;
+    if (std::exchange(intGames_, game.intGames) != game.intGames && blnOwed_)
+        LeavePlace();
+    const bool blnWasOwed = std::exchange(blnOwed_, IsOwed(game));
+    const bool blnScoreIsNew = std::exchange(score_, game.score) != game.score;
+    if (!NeedsCopy(game))
+        return Remove();
+    if (blnScoreIsNew || (blnOwed_ && !blnWasOwed)) {
+        Write(game);
+        Wait();
     }
     const auto IsSeen = [](const Cell& cell, const SavedCell& seen) {
         return cell.blnGiven == seen.blnGiven && cell.strSolution == seen.strSolution &&
@@ -80,33 +129,109 @@ void Recovery::CountTick(Game& game) {
 }
 
 void Recovery::Write(const Game& game) {
-    if (strFile_.empty() || !game.IsInPlay())
+    if (blnEnded_ || !NeedsCopy(game) || !TakePlace())
         return;
+    blnWritten_ = true;
     // What cannot be written now is tried again with the next change.
-    if (!ReplaceFile(files_, strFile_, FormatSavedGame(TakeGame(game))))
-        blnWritten_ = true;
-}
-
-void Recovery::OfferToRestore(Game& game) {
-    if (strFile_.empty() || !FileExists(files_, strFile_))
-        return;
-    const ReadResult file = ReadWholeFile(files_, strFile_, lngMaxSavedGameBytes);
-    const auto savedGame = file ? ParseSavedGame(file.bytes) : std::nullopt;
-    if (!savedGame) {
-        files_.Rename(strFile_, strFile_ + ".damaged");
-    } else if (AskToRestore(game)) {
-        blnWritten_ = true;
-        ShowSavedGame(game, *savedGame);
-        game.blnGameChanged = true;
-    } else {
-        files_.Remove(strFile_);
-    }
+    writer_.Do([&files = files_, place = place_,
+                bytes = FormatRecoveryCopy({TakeGame(game), game.strGameFile, game.score})] {
+        ReplaceFile(files, place->strFile, bytes);
+    });
 }
 
 void Recovery::Remove() {
-    if (!strFile_.empty())
-        files_.Remove(strFile_);
-    blnWritten_ = false;
+    if (std::exchange(blnWritten_, false))
+        writer_.Do([&files = files_, place = place_] { files.Remove(place->strFile); });
+}
+
+void Recovery::End(const Game& game) {
+    if (game.score.blnWaits || IsOwed(game))
+        Write(game);
+    else
+        Remove();
+    blnEnded_ = true;
+    // Else the system lets go of the lock when the write has ended.
+    if (!Wait())
+        return;
+    place_ = nullptr;
+    files_.Remove(strFolder_); // where nothing is in it
+}
+
+void Recovery::OfferToRestore(Game& game) {
+    TakeOverOldCopies();
+    for (int intCopy = 1; intCopy <= intMaxCopies; ++intCopy) {
+        const std::string strFile = GetFile(intCopy);
+        if (!MayExist(files_, strFile))
+            continue;
+        const auto place = Lock(strFile);
+        if (place != nullptr && OfferCopy(game, place) != Offer::Done)
+            return;
+    }
+}
+
+Recovery::Offer Recovery::OfferCopy(Game& game, const std::shared_ptr<Place>& place) {
+    const ReadResult file = ReadWholeFile(files_, place->strFile, lngMaxSavedGameBytes);
+    if (file.outcome == ReadOutcome::Failed)
+        TellOfCopy(game, file.strReason, "The next start tries again.");
+    if (!file)
+        return Offer::Done;
+    const auto copy = ParseRecoveryCopy(file.bytes);
+    if (!copy) {
+        if (!ParseSavedGame(file.bytes)) // else a player put it there
+            PutAside(game, place->strFile);
+        return Offer::Done;
+    }
+    const Answer answer = copy->score.blnWaits ? Answer::Yes : AskToRestore(game);
+    if (answer == Answer::Cancel)
+        return Offer::Later;
+    if (answer == Answer::No) {
+        files_.Remove(place->strFile);
+        return Offer::Done;
+    }
+    place_ = place;
+    blnWritten_ = true;
+    Restore(game, *copy);
+    return Offer::Opened;
+}
+
+void Recovery::Restore(Game& game, const RecoveryCopy& copy) {
+    game.score = copy.score;
+    ShowSavedGame(game, copy.savedGame);
+    game.strGameFile = copy.strGameFile;
+    game.blnGameChanged = true;
+    game.blnSaveOwed = game.phase == Phase::Finished && !copy.score.blnWaits;
+    if (copy.score.blnWaits)
+        EndWaitingGame(game);
+}
+
+void Recovery::PutAside(Game& game, const std::string& strFile) {
+    std::string strAside = strFile + ".damaged";
+    for (int intCopy = 2; MayExist(files_, strAside); ++intCopy)
+        strAside = strFile + ".damaged-" + std::to_string(intCopy);
+    if (!files_.Rename(strFile, strAside))
+        TellOfCopy(game, "It is damaged.", "It was put aside as \"" + strAside + "\".");
+}
+
+/// Earlier versions kept "recovery.clp" to "recovery-9.clp" in the program's folder itself. Only
+/// the lock that such a version left behind tells its copy from a game that a player saved under
+/// that name, so the copy is copied, and it is the lock that goes and never the file.
+void Recovery::TakeOverOldCopies() {
+    for (int intCopy = 1; intCopy <= intMaxCopies; ++intCopy) {
+        const std::string strName =
+            intCopy == 1 ? "recovery.clp" : "recovery-" + std::to_string(intCopy) + ".clp";
+        const std::string strFile = JoinPath(strOldFolder_, strName);
+        if (!MayExist(files_, strFile + ".lock"))
+            continue;
+        const ReadResult file = ReadWholeFile(files_, strFile, lngMaxSavedGameBytes);
+        const auto savedGame = file ? ParseSavedGame(file.bytes) : std::nullopt;
+        if (!savedGame || !TakePlace())
+            continue;
+        // An earlier version that runs beside this one goes on with its copy.
+        if (!ReplaceFile(files_, place_->strFile, FormatRecoveryCopy({*savedGame, {}, {}})) &&
+            Lock(strFile) == nullptr)
+            files_.Remove(place_->strFile);
+        place_ = nullptr;
+    }
 }
 
 } // namespace cellora

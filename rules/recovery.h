@@ -3,53 +3,90 @@
 #include <memory>
 #include <string>
 
+#include "store/background_writer.h"
+#include "store/recovery_form.h"
 #include "store/replace_file.h"
-#include "store/saved_game.h"
 
 namespace cellora {
 
-struct Game;
-
-/// Keeps the game in play on disk, so that it comes back after an end without a goodbye: in the
-/// form of a saved game, "recovery.clp" in the program's folder. Each running copy of the program
-/// has a file of its own ("recovery-2.clp" and so on), which it locks while it runs. Where no file
-/// can be locked nothing is kept.
+/// Keeps on disk what would be lost by an end without a goodbye: the game in play, a score that
+/// waits for a name and a game that the player wanted saved and could not save. Each running copy
+/// of the program has a place of its own, "copy-1" to "copy-9" in the hidden folder ".recovery" of
+/// the program's folder, which it locks; where there is none nothing is kept. What is written here
+/// is written away from the caller's thread.
 class Recovery final {
 public:
-    /// Takes the first free file that an earlier copy left behind, else the first free one.
+    /// `files` lives as long as the process: a write may go on when this object is gone.
     Recovery(FilePort& files, const std::string& strProgramFolder);
+    /// Waits for what is still to be written, as `Wait`.
+    ~Recovery();
+    Recovery(const Recovery&) = delete;
+    Recovery& operator=(const Recovery&) = delete;
 
     /// To be called after every event. A change of the cells starts `tmrRecovery`, which then calls
-    /// `tmrRecovery_Timer` a second later; a game that has ended removes the file.
+    /// `tmrRecovery_Timer` a second later; a score that waits is written before this returns. What
+    /// needs no copy any more has its copy removed.
     void Observe(Game& game);
 
-    /// Writes the game in play.
+    /// Writes the game.
     void tmrRecovery_Timer(Game& game);
 
-    /// To be called with every tick of the game clock: every tenth writes the game in play.
+    /// To be called with every tick of the game clock: every tenth writes the game.
     void CountTick(Game& game);
 
-    /// To be called at the start, while the game has no file. Asks about a game that was left
-    /// behind, and opens it as a changed game or removes it. A damaged file is put aside with
-    /// ".damaged" behind its name, in place of an earlier one, without asking.
+    /// To be called at the start, before any game. Of the copies that were left behind, a game with
+    /// a waiting score ends again; about others the player is asked until one is opened, as a
+    /// changed game that still knows its file. No removes a copy; a closed question ends the asking
+    /// and leaves it for the next start, and so does a copy that cannot be read. A damaged copy is
+    /// put aside as "copy-1.damaged", or "copy-1.damaged-2" and so on, and what is no copy is let
+    /// alone. What an earlier version left behind under its names is offered with the rest.
     void OfferToRestore(Game& game);
 
-    /// The orderly end of the program.
-    void Remove();
+    /// The orderly end of the program: the copy goes, unless changes are still owed to the player
+    /// or a score waits. Nothing is written afterwards.
+    void End(const Game& game);
 
-    /// The file this copy of the program writes; empty when nothing is kept.
-    const std::string& file() const { return strFile_; }
+    /// Waits until everything is written, for at most two seconds. False when that took longer.
+    bool Wait();
+
+    /// The file of this copy of the program; empty as long as it has none.
+    std::string file() const { return place_ ? place_->strFile : std::string(); }
 
 private:
-    bool TakeFile(const std::string& strFile);
+    struct Place {
+        Place(FilePort& files, const std::string& strPath)
+            : strFile(strPath), lock(files, strPath) {}
+
+        std::string strFile;
+        FileLock lock;
+    };
+
+    enum class Offer { Opened, Done, Later };
+
+    std::string GetFile(int intCopy) const;
+    std::shared_ptr<Place> Lock(const std::string& strFile);
+    bool TakePlace();
+    void LeavePlace();
     void Write(const Game& game);
+    void Remove();
+
+    Offer OfferCopy(Game& game, const std::shared_ptr<Place>& place);
+    void TakeOverOldCopies();
+    void Restore(Game& game, const RecoveryCopy& copy);
+    void PutAside(Game& game, const std::string& strFile);
 
     FilePort& files_;
-    std::string strFile_;
-    std::unique_ptr<FileLock> lock_;
-    Numbered<SavedCell, intCellCount> cells_; ///< as last seen
+    std::string strFolder_;
+    std::string strOldFolder_;
+    std::shared_ptr<Place> place_;            ///< shared with the writes to it, which need its lock
+    Numbered<SavedCell, intCellCount> cells_; ///< as last seen, and so are the next three
+    WaitingScore score_;
+    int intGames_ = 0;
+    bool blnOwed_ = false;
     int intTicks_ = 0;
     bool blnWritten_ = false;
+    bool blnEnded_ = false;
+    BackgroundWriter writer_;
 };
 
 } // namespace cellora

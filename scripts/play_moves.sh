@@ -132,7 +132,7 @@ play() {
     start_game "$@"
     press Cellora ctrl+n
     press "New Game" Return
-    until_true "the new game on disk" test -s "$folder/recovery.clp"
+    until_true "the new game on disk" test -s "$folder/.recovery/copy-1"
     kill -KILL "$playing"
     wait "$playing" 2>/dev/null || true
     start_game "$@"
@@ -180,9 +180,9 @@ start_second() {
     start_game "$@"
     press Cellora ctrl+n
     press "New Game" Return
-    until_true "the second copy's game on disk" test -s "$folder/recovery-2.clp"
+    until_true "the second copy's game on disk" test -s "$folder/.recovery/copy-2"
     press Cellora alt+F4
     press "Save Game\?" n
     until_true "the end of the second copy" has_ended "$playing"
-    [[ ! -e $folder/recovery-2.clp ]] || fail "the second copy left its game behind"
+    [[ ! -e $folder/.recovery/copy-2 ]] || fail "the second copy left its game behind"
 }

@@ -70,7 +70,7 @@ public:
     /// Puts a file in the place of any other of the same disk.
     virtual std::error_code Rename(const std::string& strPath, const std::string& strNewPath) = 0;
 
-    /// Removes a file.
+    /// Removes a file or an empty folder.
     virtual std::error_code Remove(const std::string& strPath) = 0;
 
     /// Returns when the disk holds the folder's names. A system that cannot be asked for that has

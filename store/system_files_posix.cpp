@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <climits>
+#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 
@@ -182,7 +183,7 @@ std::error_code SystemFiles::Rename(const std::string& strPath, const std::strin
 }
 
 std::error_code SystemFiles::Remove(const std::string& strPath) {
-    return ToError(unlink(ToPath(strPath)) == 0);
+    return ToError(remove(ToPath(strPath)) == 0);
 }
 
 std::error_code SystemFiles::FlushFolder(const std::string& strPath) {

@@ -257,7 +257,9 @@ std::error_code SystemFiles::Rename(const std::string& strPath, const std::strin
 
 std::error_code SystemFiles::Remove(const std::string& strPath) {
     const std::wstring strWide = ToPath(strPath);
-    const DWORD lngCode = Insist([&] { return DeleteFileW(strWide.c_str()) != 0; });
+    const DWORD lngCode = Insist([&] {
+        return DeleteFileW(strWide.c_str()) != 0 || RemoveDirectoryW(strWide.c_str()) != 0;
+    });
     return ToError(lngCode == ERROR_SUCCESS, lngCode);
 }
 

@@ -109,23 +109,25 @@ TEST(HallOfFame, IsNotReplacedBeforeTheDamagedFileIsKept) {
 
 TEST(Recovery, KeepsTheGamesOfNineCopies) {
     Player player;
-    const TemporaryFolder folder;
+    player.Play("puzzle");
     std::vector<std::unique_ptr<Recovery>> copies;
     std::string strFiles;
     for (int n = 0; n < 10; ++n) {
-        copies.push_back(std::make_unique<Recovery>(player.files, folder.Path()));
+        copies.push_back(std::make_unique<Recovery>(player.files, player.folder.Path()));
+        copies.back()->tmrRecovery_Timer(player.game);
+        EXPECT_TRUE(copies.back()->Wait());
         strFiles += std::filesystem::path(copies.back()->file()).stem().string() + ' ';
     }
-    EXPECT_EQ(strFiles, "recovery recovery-2 recovery-3 recovery-4 recovery-5 recovery-6 "
-                        "recovery-7 recovery-8 recovery-9  ");
-    player.Play("puzzle");
-    copies[9]->tmrRecovery_Timer(player.game);
-    copies[9]->OfferToRestore(player.game);
-    copies[9]->Remove();
-    copies[2]->tmrRecovery_Timer(player.game);
-    copies.clear();
-    EXPECT_EQ(Recovery(player.files, folder.Path()).file(), folder.Path("recovery-3.clp"))
-        << "a game that was left behind comes first";
+    EXPECT_EQ(strFiles, "copy-1 copy-2 copy-3 copy-4 copy-5 copy-6 copy-7 copy-8 copy-9  ");
+    copies.erase(copies.begin() + 2);
+    player.desktop.answers = {Answer::Yes};
+    Recovery next(player.files, player.folder.Path());
+    next.OfferToRestore(player.game);
+    EXPECT_EQ(next.file(), player.folder.Path(".recovery/copy-3")) << "which nobody uses";
+    for (const auto& copy : copies)
+        copy->End(player.game);
+    next.End(player.game);
+    EXPECT_EQ(player.folder.Count(), 0);
 }
 
 } // namespace

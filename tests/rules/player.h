@@ -14,6 +14,7 @@
 #include "rules/aids.h"
 #include "rules/check.h"
 #include "rules/clock.h"
+#include "rules/completion.h"
 #include "rules/cursor.h"
 #include "rules/entry.h"
 #include "rules/game_file.h"
@@ -137,8 +138,8 @@ private:
 
     void ListFiles() {
         std::set<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
-            names.insert(entry.path().filename().string());
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path()))
+            names.insert(entry.path().lexically_relative(folder.Path()).generic_string());
         for (const std::string& strName : names)
             Report(strName);
     }
@@ -163,16 +164,15 @@ private:
                     ", highest recorded level ", GetHighestRecordedLevel(game)));
     }
 
-    void StartRecovery() {
-        recovery_.emplace(files, folder.Path());
-        Report(recovery_->file());
-    }
+    void StartRecovery() { recovery_.emplace(files, folder.Path()); }
 
     // The transcript.
 
     void Run(const std::string& strCommand) {
         words_ = std::istringstream(strCommand);
         commands_.at(Word())();
+        if (recovery_)
+            recovery_->Wait();
         WriteChanges();
     }
 
@@ -287,6 +287,7 @@ private:
         {"start", [this] { StartNewGame(game, Rest()); }},
         {"new", [this] { NewGame(game); }},
         {"open", [this] { OpenGame(game); }},
+        {"writegame", [this] { Report(WriteGameFile(game).value_or("written")); }},
         {"save", [this] { SaveGame(game); }},
         {"saveas", [this] { SaveGameAs(game); }},
         {"close", [this] { Report(MayClose(game) ? "closed" : "stays open"); }},
@@ -313,7 +314,10 @@ private:
         {"read", [this] { Report(folder.ReadBytes(Word())); }},
         {"compare",
          [this] {
-             const bool blnSame = folder.ReadBytes(Word()) == FormatSavedGame(TakeGame(game));
+             const std::string strBytes = folder.ReadBytes(Word());
+             const auto copy = ParseRecoveryCopy(strBytes);
+             const bool blnSame = (copy ? FormatSavedGame(copy->savedGame) : strBytes) ==
+                                  FormatSavedGame(TakeGame(game));
              Report(blnSame ? "the game" : "another game");
          }},
         // Best times.
@@ -329,8 +333,28 @@ private:
         {"keep", [this] { recovery_->tmrRecovery_Timer(game); }},
         {"count", [this] { recovery_->CountTick(game); }},
         {"offer", [this] { recovery_->OfferToRestore(game); }},
-        {"goodbye", [this] { recovery_->Remove(); }},
+        {"goodbye", [this] { recovery_->End(game); }},
         {"crash", [this] { recovery_.reset(); }},
+        {"watch",
+         [this] {
+             recovery_->Observe(game);
+             Report(folder.ReadBytes(".recovery/copy-1").find("waits=True") != std::string::npos
+                        ? "the score waits"
+                        : "no score waits");
+         }},
+        {"die",
+         [this] {
+             recovery_->Observe(game);
+             recovery_.reset();
+         }},
+        {"enterdie",
+         [this] {
+             const std::string strName = Rest();
+             NoteName(game, strName);
+             recovery_->Observe(game);
+             SaveHallOfFameEntry(game, strName);
+             recovery_.reset();
+         }},
     };
 
     std::istringstream words_;

@@ -4,6 +4,7 @@
 #include <QPrinter>
 #include <QtWidgets>
 
+#include "rules/recovery.h"
 #include "tests/support/running_program.h"
 #include "tests/ui/machine.h"
 #include "tests/ui/window_text.h"
@@ -195,6 +196,7 @@ private slots:
 
     /// file NAME
     void file(const QStringList& words) {
+        run_.program->recovery()->Wait();
         const std::string strFile = words.value(0).toStdString();
         const bool blnThere = std::filesystem::exists(run_.folder.Path(strFile));
         const QString strText = QString::fromStdString(run_.folder.ReadBytes(strFile));

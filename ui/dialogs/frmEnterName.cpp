@@ -11,6 +11,7 @@
 #include "core/desktop.h"
 #include "core/modCellora.h"
 #include "rules/clock.h"
+#include "rules/completion.h"
 #include "rules/hall_of_fame.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/pictures.h"
@@ -138,6 +139,8 @@ bool frmEnterName::WantsToEnterName() {
 
 void frmEnterName::cmdOK_Click() {
     if (const QString strName = txtName_->text(); !strName.isEmpty()) {
+        NoteName(game(), ToStdString(strName));
+        emit gameChanged(); // which keeps it on disk
         if (const auto reason = SaveHallOfFameEntry(game(), ToStdString(strName))) {
             ShowHallOfFameError(game(), *reason);
             return;

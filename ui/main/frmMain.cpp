@@ -192,6 +192,7 @@ void frmMain::mnuPrint_Click() {
 }
 
 void frmMain::mnuExit_Click() {
+    answered_.reset();
     close();
 }
 
@@ -209,40 +210,40 @@ void frmMain::mnuAbout_Click() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (!isEnabled()) { // under the splash
+    if (!isEnabled() /* under the splash */ || (!IsAnswered(*event) && !AskToLeave())) {
         event->ignore();
         return;
     }
-    if (!Leave()) {
-        event->ignore();
-        return;
-    }
+    UnloadMainWindow(game_);
+    recovery_.End(game_);
     event->accept();
     QCoreApplication::exit();
 }
 
-bool frmMain::Leave() {
+bool frmMain::AskToLeave() {
     const bool blnLeave = MayClose(game_);
     Update();
-    if (!blnLeave)
-        return false;
-    UnloadMainWindow(game_);
-    recovery_.Remove();
-    return true;
+    return blnLeave;
+}
+
+bool frmMain::IsAnswered(const QCloseEvent& event) const {
+    return answered_ && !event.spontaneous() && answered_->cells == TakeGame(game_).cells;
 }
 
 void frmMain::EndSession(QSessionManager& manager) {
+    answered_.reset();
     if (!isEnabled())
         return;
     if (!manager.allowsInteraction()) {
-        // The recovery file keeps what cannot be asked about.
-        UnloadMainWindow(game_);
+        game_.blnSaveOwed = true; // what cannot be asked about
+    } else if (!AskToLeave()) {
+        manager.cancel();
         return;
     }
-    if (Leave())
-        game_.blnGameChanged = false; // The closing that follows must not ask again.
-    else
-        manager.cancel();
+    // The session may still go on; so does the game then, and the recovery with it.
+    answered_ = TakeGame(game_);
+    UnloadMainWindow(game_);
+    Update();
 }
 
 void frmMain::changeEvent(QEvent* event) {

@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QMainWindow>
 
+#include "store/saved_game.h"
 #include "ui/board/board_scene.h"
 
 class QSessionManager;
@@ -69,10 +71,12 @@ private:
     void MakePopups();
     void ConnectDesktop();
 
-    /// The end of the program, if the player agrees.
-    bool Leave();
-    /// The same when the desktop's session ends, which the player may thereby stop.
+    /// Asks about unsaved changes. False when the window stays open.
+    bool AskToLeave();
+    /// The desktop's session is about to end, which the player may stop; so may others afterwards.
     void EndSession(QSessionManager& manager);
+    /// Whether a closing that the player did not ask for follows an answer about this very game.
+    bool IsAnswered(const QCloseEvent& event) const;
 
     /// Whether the key was used up; keys that move the keyboard's focus are not.
     bool picBorder_KeyDown(const QKeyEvent& event);
@@ -84,6 +88,7 @@ private:
     Game& game_;
     QtDesktop& desktop_;
     Recovery& recovery_;
+    std::optional<SavedGame> answered_; ///< what was on the board when the session's end was asked
     BoardScene scene_;
     QWidget* client_ = nullptr;
     QWidget* picBorder_ = nullptr;

@@ -37,11 +37,18 @@ void PlaceFiles(FilePort& files, const std::string& strFolder) {
     PlaceShippedFiles(files, strFolder, aFiles);
 }
 
+/// Never destroyed: a write may go on when the program has ended.
+FilePort& GetSystemFiles() {
+    static FilePort* const files = new SystemFiles;
+    return *files;
+}
+
 } // namespace
 
 Program::Program(std::function<std::string()> fnFindFolder, std::uint64_t lngRandomState)
-    : desktop_(std::make_unique<QtDesktop>()), files_(std::make_unique<SystemFiles>()),
-      game_(std::make_unique<Game>(*desktop_, *files_)), fnFindFolder_(std::move(fnFindFolder)) {
+    : desktop_(std::make_unique<QtDesktop>()),
+      game_(std::make_unique<Game>(*desktop_, GetSystemFiles())),
+      fnFindFolder_(std::move(fnFindFolder)) {
     game_->lngRandomState = lngRandomState;
 }
 
@@ -58,11 +65,11 @@ void Program::Main() {
 void Program::LoadMain() {
     if (main_ == nullptr) {
         game_->strProgramFolder = fnFindFolder_();
-        PlaceFiles(*files_, game_->strProgramFolder);
+        PlaceFiles(game_->files, game_->strProgramFolder);
         // What the toolkit's own dialogs remember belongs there as well.
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                            ToQString(game_->strProgramFolder));
-        recovery_ = std::make_unique<Recovery>(*files_, game_->strProgramFolder);
+        recovery_ = std::make_unique<Recovery>(game_->files, game_->strProgramFolder);
         InstallBoardAccessibility();
         InstallControlAccessibility();
         main_ = std::make_unique<frmMain>(*game_, *desktop_, *recovery_);

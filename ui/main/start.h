@@ -7,7 +7,6 @@
 
 namespace cellora {
 
-class FilePort;
 class QtDesktop;
 class Recovery;
 class frmMain;
@@ -28,15 +27,15 @@ public:
 
     Game& game() { return *game_; }
     QtDesktop& desktop() { return *desktop_; }
-    frmSplash* splash() { return splash_.get(); } ///< null before `Main`
-    frmMain* mainWindow() { return main_.get(); } ///< null until the splash has loaded it
+    frmSplash* splash() { return splash_.get(); }    ///< null before `Main`
+    frmMain* mainWindow() { return main_.get(); }    ///< null until the splash has loaded it
+    Recovery* recovery() { return recovery_.get(); } ///< null until then
 
 private:
     void LoadMain();
     void StartMain();
 
     std::unique_ptr<QtDesktop> desktop_;
-    std::unique_ptr<FilePort> files_;
     std::unique_ptr<Game> game_;
     std::function<std::string()> fnFindFolder_;
     std::unique_ptr<Recovery> recovery_; ///< from the loading of the main window on
