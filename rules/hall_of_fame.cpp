@@ -14,6 +14,8 @@ namespace cellora {
 namespace {
 
 constexpr int msLockTimeout = 2000;
+constexpr int intMaxCopies = 99;
+constexpr const char* strBoxTitle = "Hall of Fame";
 
 std::string GetFilePath(const Game& game) {
     return JoinPath(game.strProgramFolder, std::string(strHallOfFameFileName));
@@ -37,56 +39,79 @@ void InsertEntry(LevelEntries& entries, int intRank, HallOfFameEntry entry) {
         std::swap(entries[i], entry);
 }
 
-/// Copies a file that is not in form beside it; an earlier copy stays.
-std::optional<std::string> KeepDamagedFile(FilePort& files, const std::string& strFile,
-                                           std::string_view bytes) {
-    std::string strCopy = strFile + ".damaged";
-    for (int intCopy = 2; PathExists(files, strCopy); ++intCopy)
-        strCopy = strFile + ".damaged-" + std::to_string(intCopy);
-    return ReplaceFile(files, strCopy, bytes);
+/// What a rewriting of the file has come to.
+struct Rewriting {
+    std::optional<std::string> strReason; ///< of a failure
+    std::string strKept = {};             ///< the copy of a damaged file
+};
+
+/// Copies a file that is not in form beside it, under the first free name unless it is kept there
+/// already.
+Rewriting KeepDamagedFile(FilePort& files, const std::string& strFile, std::string_view bytes) {
+    for (int intCopy = 1; intCopy <= intMaxCopies; ++intCopy) {
+        const std::string strNumber = intCopy == 1 ? "" : "-" + std::to_string(intCopy);
+        const std::string strCopy = strFile + ".damaged" + strNumber;
+        const ReadResult kept = ReadWholeFile(files, strCopy, lngMaxHallOfFameBytes);
+        if (kept && kept.bytes == bytes)
+            return {std::nullopt, strCopy};
+        if (kept.outcome == ReadOutcome::Missing)
+            return {ReplaceFile(files, strCopy, bytes), strCopy};
+    }
+    return {"No more damaged files \"hof.clh\" can be kept."};
 }
 
 /// Reads the file for rewriting. A missing one counts as empty; a damaged one is kept first.
-std::optional<std::string> ReadForRewriting(FilePort& files, const std::string& strFile,
-                                            HallOfFame& hallOfFame) {
+Rewriting ReadForRewriting(FilePort& files, const std::string& strFile, HallOfFame& hallOfFame) {
     const ReadResult file = ReadWholeFile(files, strFile, lngMaxHallOfFameBytes);
-    if (file.outcome == ReadOutcome::Missing) {
-        hallOfFame = MakeEmptyHallOfFame();
-        return std::nullopt;
-    }
-    if (!file)
-        return "The file \"hof.clh\" cannot be read.";
-    return ReadHallOfFameBytes(file.bytes, hallOfFame)
-               ? std::nullopt
-               : KeepDamagedFile(files, strFile, file.bytes);
+    if (file.outcome == ReadOutcome::Failed)
+        return {file.strReason};
+    hallOfFame = MakeEmptyHallOfFame();
+    if (file.outcome == ReadOutcome::Missing || ReadHallOfFameBytes(file.bytes, hallOfFame))
+        return {};
+    hallOfFame = RepairHallOfFame(file.bytes);
+    return KeepDamagedFile(files, strFile, file.bytes);
 }
 
 /// Replaces the file by what `fnEdit` makes of it, all inside the lock.
 template <typename Edit>
-std::optional<std::string> RewriteHallOfFame(const Game& game, Edit fnEdit) {
+Rewriting RewriteHallOfFame(const Game& game, Edit fnEdit) {
     const std::string strFile = GetFilePath(game);
     FileLock lock(game.files, strFile);
     const LockOutcome outcome = lock.TryLock(msLockTimeout);
     if (outcome == LockOutcome::HeldElsewhere)
-        return "Another copy of the program is using the file \"hof.clh\".";
-    // Where the disk knows no locks, an entry for sure is worth more than one less in a hundred
-    // thousand.
+        return {"Another copy of the program is using the file \"hof.clh\"."};
+    // On a disk that knows no locks an entry is worth more than the rare moment of two writers.
     if (outcome == LockOutcome::Failed)
-        return "The folder of the file \"hof.clh\" cannot be written, or its disk is full.";
+        return {"The folder of the file \"hof.clh\" cannot be written, or its disk is full."};
     HallOfFame hallOfFame;
-    if (auto reason = ReadForRewriting(game.files, strFile, hallOfFame))
-        return reason;
+    Rewriting rewriting = ReadForRewriting(game.files, strFile, hallOfFame);
+    if (rewriting.strReason)
+        return rewriting;
     fnEdit(hallOfFame);
-    return ReplaceFile(game.files, strFile, FormatHallOfFame(hallOfFame));
+    rewriting.strReason = ReplaceFile(game.files, strFile, FormatHallOfFame(hallOfFame));
+    return rewriting;
 }
 
 /// The same, with the hourglass meanwhile: another copy may hold the lock for a moment.
 template <typename Edit>
 std::optional<std::string> RewriteUnderHourglass(const Game& game, Edit fnEdit) {
     game.desktop.SetMousePointer(MousePointer::Hourglass);
-    auto reason = RewriteHallOfFame(game, fnEdit);
+    const Rewriting rewriting = RewriteHallOfFame(game, fnEdit);
     game.desktop.SetMousePointer(MousePointer::Default);
-    return reason;
+    if (!rewriting.strKept.empty() && !rewriting.strReason)
+        game.desktop.Announce(strBoxTitle,
+                              "The file \"hof.clh\" was damaged. What it still held was kept; "
+                              "the damaged file itself is now \"" +
+                                  rewriting.strKept + "\".",
+                              MessageIcon::Information);
+    return rewriting.strReason;
+}
+
+void TellPlaceWasTaken(const Game& game) {
+    game.desktop.Announce(strBoxTitle,
+                          "Better times were entered into the 'Top Ten' meanwhile by another copy "
+                          "of the program. Your time no longer has a place in it.",
+                          MessageIcon::Information);
 }
 
 } // namespace
@@ -109,14 +134,19 @@ std::int16_t GetRank(const Game& game) {
 }
 
 std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::string& strName) {
-    return RewriteUnderHourglass(game, [&](HallOfFame& hallOfFame) {
+    bool blnPlaceTaken = false;
+    auto strReason = RewriteUnderHourglass(game, [&](HallOfFame& hallOfFame) {
         const int intLevel = GetCurrentLevel(game);
         if (intLevel < 1 || intLevel > intLevelCount)
             return;
         LevelEntries& entries = hallOfFame[intLevel];
-        InsertEntry(entries, FindRank(game, entries),
-                    {strName, game.lngHours, game.lngMinutes, game.lngSeconds});
+        const std::int16_t intRank = FindRank(game, entries);
+        blnPlaceTaken = intRank == intNoRank;
+        InsertEntry(entries, intRank, {strName, game.lngHours, game.lngMinutes, game.lngSeconds});
     });
+    if (blnPlaceTaken && !strReason)
+        TellPlaceWasTaken(game);
+    return strReason;
 }
 
 std::optional<std::string> ResetHallOfFame(const Game& game) {
@@ -145,7 +175,7 @@ std::string FormatEntryTime(const HallOfFameEntry& entry) {
 }
 
 void ShowHallOfFameError(Game& game, const std::string& strReason) {
-    game.desktop.Announce("Hall of Fame", strReason, MessageIcon::Exclamation);
+    game.desktop.Announce(strBoxTitle, strReason, MessageIcon::Exclamation);
 }
 
 } // namespace cellora

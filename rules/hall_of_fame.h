@@ -28,10 +28,11 @@ std::int16_t GetRank(const Game& game);
 
 /// Inserts the current game under that name at the rank its time has now, and rewrites the file
 /// whole, under a lock shared by all running copies. A damaged file is kept beside it first, as
-/// "hof.clh.damaged", or "hof.clh.damaged-2" and so on where earlier ones are kept already; a
-/// missing one counts as empty. Nothing is returned on success, else the
-/// reason in one sentence; the file is then as it was. The name holds no double quote and no line
-/// break.
+/// "hof.clh.damaged", or "hof.clh.damaged-2" and so on where others are kept already; what it does
+/// not give becomes empty entries, and the player is told. A missing file counts as empty; one that
+/// cannot be read whole stays. A time whose place was taken meanwhile is not entered, which the
+/// player is told. Nothing is returned when done, else the reason in one sentence. The name holds
+/// no double quote and no line break.
 std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::string& strName);
 
 /// Rewrites the file with empty entries only; results as above.

@@ -34,22 +34,32 @@ bool ReadName(std::string_view strLine, std::string& strName) {
     return std::erase(strName, '"') == 2 && blnQuoted;
 }
 
+enum class Given { InForm, Whole, InParts };
+
+Given ReadEntry(const Lines& lines, std::size_t intLine, HallOfFameEntry& entry) {
+    bool blnWhole = intLine < lines.size();
+    const bool blnNamed = blnWhole && ReadName(lines[intLine], entry.strName);
+    for (std::int32_t* const pNumber : {&entry.lngHours, &entry.lngMinutes, &entry.lngSeconds}) {
+        ++intLine;
+        blnWhole &= intLine < lines.size() && ReadNumber(lines[intLine], *pNumber);
+    }
+    return !blnWhole ? Given::InParts : blnNamed ? Given::InForm : Given::Whole;
+}
+
+std::size_t GetFirstLine(int intLevel) {
+    return static_cast<std::size_t>(intLevel - 1) * intLinesPerLevel;
+}
+
 /// Takes what the lines of one level give; true when all of it was in form.
 bool ReadLevel(const Lines& lines, int intLevel, LevelEntries& entries) {
-    auto intLine = static_cast<std::size_t>(intLevel - 1) * intLinesPerLevel;
+    std::size_t intLine = GetFirstLine(intLevel);
     std::int32_t lngLevel = 0;
     bool blnInForm =
         intLine < lines.size() && ReadNumber(lines[intLine], lngLevel) && lngLevel == intLevel;
     ++intLine;
     for (HallOfFameEntry& entry : entries) {
-        if (intLine < lines.size())
-            blnInForm &= ReadName(lines[intLine], entry.strName);
-        ++intLine;
-        for (std::int32_t* const pNumber :
-             {&entry.lngHours, &entry.lngMinutes, &entry.lngSeconds}) {
-            blnInForm &= intLine < lines.size() && ReadNumber(lines[intLine], *pNumber);
-            ++intLine;
-        }
+        blnInForm &= ReadEntry(lines, intLine, entry) == Given::InForm;
+        intLine += intLinesPerEntry;
     }
     return blnInForm;
 }
@@ -69,6 +79,21 @@ bool ReadHallOfFameBytes(std::string_view bytes, HallOfFame& hallOfFame) {
     for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel)
         blnInForm &= ReadLevel(lines, intLevel, hallOfFame[intLevel]);
     return blnInForm;
+}
+
+HallOfFame RepairHallOfFame(std::string_view bytes) {
+    const Lines lines = SplitLines(bytes);
+    HallOfFame hallOfFame = MakeEmptyHallOfFame();
+    for (int intLevel = 1; intLevel <= intLevelCount; ++intLevel) {
+        int intPlace = 0; // of the last whole entry, so that empty ones come behind
+        for (std::size_t n = 0; n < LevelEntries::size(); ++n) {
+            HallOfFameEntry entry;
+            const std::size_t intLine = GetFirstLine(intLevel) + 1 + n * intLinesPerEntry;
+            if (ReadEntry(lines, intLine, entry) != Given::InParts)
+                hallOfFame[intLevel][++intPlace] = entry;
+        }
+    }
+    return hallOfFame;
 }
 
 std::string FormatHallOfFame(const HallOfFame& hallOfFame) {

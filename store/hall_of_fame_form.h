@@ -39,7 +39,11 @@ std::string FormatHallOfFame(const HallOfFame& hallOfFame);
 /// the whole file was in form. Lines end with CR LF or LF.
 bool ReadHallOfFameBytes(std::string_view bytes, HallOfFame& hallOfFame);
 
-/// The same for one level 1 to 30 alone.
+/// What a damaged file still holds: the entries that are given whole, in their order. All others
+/// are empty.
+HallOfFame RepairHallOfFame(std::string_view bytes);
+
+/// The same as `ReadHallOfFameBytes` for one level 1 to 30 alone.
 bool ReadLevelBytes(std::string_view bytes, int intLevel, LevelEntries& entries);
 
 } // namespace cellora

@@ -1,9 +1,14 @@
 #include "store/program_folder.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
 #include <QDir>
 #include <QStandardPaths>
 #include <QString>
 
+#include "core/modCommon_Constants.h"
 #include "store/modCommon_File.h"
 #include "store/replace_file.h"
 
@@ -12,6 +17,15 @@ namespace cellora {
 namespace {
 
 constexpr int msPlaceTimeout = 2000;
+constexpr std::int64_t lngMaxAge = 3600; // seconds; no write takes as long
+
+bool IsCapital(char c) {
+    return c >= 'A' && c <= 'Z';
+}
+
+bool IsLetter(char c) {
+    return IsCapital(c) || (c >= 'a' && c <= 'z');
+}
 
 /// Trying is the only sure answer: permissions alone know nothing of read-only disks and quotas.
 bool CanCreateFile(FilePort& files, const std::string& strFolder) {
@@ -32,6 +46,39 @@ void MakeFolders(FilePort& files, std::string strFolder) {
         return;
     MakeFolders(files, GetFolderFromPath(strFolder));
     files.MakeFolder(strFolder);
+}
+
+bool HoldsFiles(FilePort& files, const std::string& strFolder) {
+    return FileExists(files, JoinPath(strFolder, std::string(strSettingsFileName))) ||
+           FileExists(files, JoinPath(strFolder, std::string(strHallOfFameFileName)));
+}
+
+/// What cannot be told may be there.
+bool IsMissing(FilePort& files, const std::string& strPath) {
+    PathStatus status;
+    return !files.GetStatus(strPath, status) && status.kind == PathKind::Missing;
+}
+
+bool IsOldTemporary(std::string_view strName) {
+    if (IsTemporaryName(strName))
+        return true;
+    // Earlier versions put six letters at random behind the name. Only those that can hardly be a
+    // word of a player's count.
+    const std::size_t lngDot = strName.rfind('.');
+    const std::string_view strOwner = strName.substr(0, lngDot);
+    const std::string_view strLetters =
+        lngDot == std::string_view::npos ? std::string_view() : strName.substr(lngDot + 1);
+    if ((strOwner != strSettingsFileName && strOwner != strHallOfFameFileName &&
+         strOwner != "recovery.clp") ||
+        strLetters.size() != 6 || !std::ranges::all_of(strLetters, IsLetter))
+        return false;
+    int intChanges = 0;
+    bool blnOddCapital = IsCapital(strLetters.back());
+    for (std::size_t n = 1; n < strLetters.size(); ++n) {
+        intChanges += IsCapital(strLetters[n]) != IsCapital(strLetters[n - 1]) ? 1 : 0;
+        blnOddCapital |= IsCapital(strLetters[n]) && IsCapital(strLetters[n - 1]);
+    }
+    return intChanges >= 3 && blnOddCapital;
 }
 
 } // namespace
@@ -56,19 +103,37 @@ std::string GetProgramFolder(FilePort& files, const std::string& strExecutableFo
     if (strUserDataFolder.empty() || CanCreateFile(files, strExecutableFolder))
         return strExecutableFolder;
     MakeFolders(files, strUserDataFolder);
-    return strUserDataFolder;
+    const bool blnReadOnly = !CanCreateFile(files, strUserDataFolder) &&
+                             !HoldsFiles(files, strUserDataFolder) &&
+                             HoldsFiles(files, strExecutableFolder);
+    return blnReadOnly ? strExecutableFolder : strUserDataFolder;
 }
 
 void PlaceShippedFiles(FilePort& files, const std::string& strFolder,
                        std::span<const ShippedFile> shipped) {
     for (const ShippedFile& file : shipped) {
         const std::string strPath = JoinPath(strFolder, std::string(file.strName));
-        if (PathExists(files, strPath))
+        if (!IsMissing(files, strPath))
             continue;
         FileLock lock(files, strPath);
         // Another copy may have placed the file, and even used it, before the lock was free.
-        if (lock.TryLock(msPlaceTimeout) == LockOutcome::Locked && !PathExists(files, strPath))
+        const LockOutcome outcome = lock.TryLock(msPlaceTimeout);
+        const bool blnMine = outcome == LockOutcome::Locked || outcome == LockOutcome::NotSupported;
+        if (blnMine && IsMissing(files, strPath))
             ReplaceFile(files, strPath, file.strContent);
+    }
+}
+
+void RemoveOldTemporaries(FilePort& files, const std::string& strFolder) {
+    std::vector<std::string> names;
+    if (files.ListFolder(strFolder, names))
+        return;
+    for (const std::string& strName : names) {
+        PathStatus status;
+        const std::string strPath = JoinPath(strFolder, strName);
+        if (IsOldTemporary(strName) && !files.GetStatus(strPath, status) &&
+            status.kind == PathKind::File && status.lngAge > lngMaxAge)
+            files.Remove(strPath);
     }
 }
 

@@ -21,10 +21,15 @@ struct ShippedFile {
 std::string GetUserDataFolder();
 
 /// The folder of the settings and hall-of-fame files: the folder of the running program when a file
-/// can be created there, else `strUserDataFolder`, made when missing. When there is no user's
-/// folder either, the program's folder all the same. The folders have no separator at their end.
+/// can be created there, else `strUserDataFolder`, made when missing. When nothing can be written
+/// there either, or there is no user's folder, the program's folder all the same, for what can be
+/// read in it. The folders have no separator at their end.
 std::string GetProgramFolder(FilePort& files, const std::string& strExecutableFolder,
                              const std::string& strUserDataFolder);
+
+/// Removes the files that killed writes of this or an earlier version left in the folder, once they
+/// are more than an hour old. Failures are ignored.
+void RemoveOldTemporaries(FilePort& files, const std::string& strFolder);
 
 /// Puts every shipped file that is missing into the folder. What exists is never touched, not even
 /// when another copy of the program starts at the same moment; failures are ignored.

@@ -13,6 +13,10 @@ namespace {
 
 constexpr std::size_t lngMaxChunk = std::size_t{64} << 10U;
 constexpr int intMaxNames = 20;
+constexpr std::string_view strTemporaryStart = ".cellora-";
+constexpr std::string_view strTemporaryEnd = ".tmp";
+constexpr std::string_view strDigits = "0123456789abcdef";
+constexpr std::size_t lngTemporaryDigits = 12;
 constexpr const char* strNoFile = "It is no regular file";
 
 std::string FormatReason(const std::string& strPath, const char* strWhat,
@@ -129,12 +133,19 @@ std::optional<std::string> ReplaceFile(FilePort& files, const std::string& strPa
 }
 
 std::string MakeTemporaryName() {
-    constexpr std::string_view strDigits = "0123456789abcdef";
-    std::string strName = ".cellora-";
+    std::string strName(strTemporaryStart);
     std::random_device random;
-    for (int n = 0; n < 12; ++n)
+    for (std::size_t n = 0; n < lngTemporaryDigits; ++n)
         strName += strDigits[random() % strDigits.size()];
-    return strName + ".tmp";
+    return strName.append(strTemporaryEnd);
+}
+
+bool IsTemporaryName(std::string_view strName) {
+    if (!strName.starts_with(strTemporaryStart) || !strName.ends_with(strTemporaryEnd))
+        return false;
+    strName.remove_prefix(strTemporaryStart.size());
+    return strName.size() == lngTemporaryDigits + strTemporaryEnd.size() &&
+           strName.find_first_not_of(strDigits) == lngTemporaryDigits;
 }
 
 FileLock::FileLock(FilePort& files, const std::string& strPath)

@@ -40,6 +40,9 @@ std::optional<std::string> ReplaceFile(FilePort& files, const std::string& strPa
 /// A new name, hidden on POSIX, for a file that is about to take another one's place.
 std::string MakeTemporaryName();
 
+/// True for such a name.
+bool IsTemporaryName(std::string_view strName);
+
 enum class LockOutcome {
     Locked,
     HeldElsewhere,

@@ -125,6 +125,33 @@ TEST_F(Files, OfTheProgramLieBesideItOrInTheUsersFolder) {
     EXPECT_TRUE(std::filesystem::is_directory(strData));
 }
 
+TEST_F(Files, LeftByKilledWritesGoWhenTheyAreOld) {
+    const std::string strOld = folder.MakeFolder("old");
+    const auto Make = [&](const std::string& strName, int intHours) {
+        std::filesystem::last_write_time(folder.WriteBytes("old/" + strName, "x"),
+                                         std::filesystem::file_time_type::clock::now() -
+                                             std::chrono::hours(intHours));
+    };
+    const auto aKept = std::to_array<std::string>(
+        {"hof.clh.backup", "hof.clh.BackUp", "hof.clh.BACKUP", "cl.ini.oldABC", "game.clp.aBCdEf",
+         "hof.clh.damaged", ".cellora-0123456789aX.tmp", ".cellora-0123456789ab.tmp.bak"});
+    for (const std::string& strName : aKept)
+        Make(strName, 1000);
+    for (const char* const strName :
+         {".cellora-0123456789ab.tmp", "hof.clh.aBCdEf", "cl.ini.qRsTUv"})
+        Make(strName, 2);
+    const std::string strNew = MakeTemporaryName();
+    Make(strNew, 0);
+    RemoveOldTemporaries(files, strOld);
+    RemoveOldTemporaries(files, folder.Path("missing"));
+    std::vector<std::string> names;
+    EXPECT_FALSE(files.ListFolder(strOld, names));
+    EXPECT_EQ(names.size(), aKept.size() + 1);
+    for (const std::string& strName : aKept)
+        EXPECT_TRUE(FileExists(files, strOld + "/" + strName)) << strName;
+    EXPECT_TRUE(FileExists(files, strOld + "/" + strNew));
+}
+
 TEST_F(Files, AsShippedFillOnlyGaps) {
     constexpr std::array aFiles = {ShippedFile{"cl.ini", "[general]\r\n"},
                                    ShippedFile{"hof.clh", "1\r\n"}, ShippedFile{"third", "3"}};

@@ -34,6 +34,7 @@ void PlaceFiles(FilePort& files, const std::string& strFolder) {
     const std::string strHallOfFame = FormatHallOfFame(MakeEmptyHallOfFame());
     const std::array aFiles = {ShippedFile{strSettingsFileName, strSettings},
                                ShippedFile{strHallOfFameFileName, strHallOfFame}};
+    RemoveOldTemporaries(files, strFolder);
     PlaceShippedFiles(files, strFolder, aFiles);
 }
 
