@@ -204,7 +204,10 @@ private:
         if (!object.objectName().isEmpty())
             return object.objectName();
         const QString strText = object.property("text").toString().section(u'\n', 0, 0);
-        return Join("a ", GetClass(object), ' ', strText.left(20)).trimmed();
+        // Folders differ from run to run.
+        const QString strShort =
+            QString(strText).remove(QRegularExpression(QStringLiteral("(?<=\")[^\"]*/")));
+        return Join("a ", GetClass(object), ' ', strShort.left(20)).trimmed();
     }
 
     void Name(const QObject& object) {
