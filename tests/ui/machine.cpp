@@ -122,6 +122,10 @@ bool IsExact() {
 }
 
 void Settle() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        for (auto* const animation : window->findChildren<QAbstractAnimation*>())
+            animation->setCurrentTime(animation->duration());
+    }
     for (int i = IsOffscreen() ? 4 : 12; i > 0; --i) {
         QCoreApplication::processEvents();
         if (!IsOffscreen())

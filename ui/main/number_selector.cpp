@@ -2,7 +2,9 @@
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include "rules/view.h"
 #include "ui/desktop/crisp.h"
@@ -20,6 +22,9 @@ constexpr double dblButtonTop = 105;
 constexpr double dblFirstLeft = 480;
 constexpr double dblButtonPitch = 600;
 constexpr double dblFocusInset = 2; ///< in pixels
+constexpr double dblTileRadius = 4; ///< in pixels
+constexpr int intHoverAlpha = 26;
+constexpr int intPressAlpha = 64;
 
 } // namespace
 
@@ -37,6 +42,10 @@ NumberSelectorButton::NumberSelectorButton(int intNumber, QWidget* parent)
             [this] { emit released(false, GetPopupPosition()); });
     // The keyboard stays with the grid when the mouse is used here.
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    settling_.setStartValue(0.0);
+    settling_.setEndValue(1.0);
+    connect(&settling_, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
     SetZoom(1);
 }
 
@@ -60,15 +69,44 @@ void NumberSelectorButton::Mirror(const NumberButtonView& button) {
         return;
     blnFramed_ = button.blnFramed;
     lngFrameColor_ = button.lngFrameColor;
-    blnShaded_ = button.blnShaded;
+    if (button.blnShaded != blnShaded_) {
+        blnShaded_ = button.blnShaded;
+        Settle();
+    }
     update();
 }
 
-QString NumberSelectorButton::GetPictureName() const {
+void NumberSelectorButton::Settle() {
+    settling_.stop();
+    settling_.setDuration(style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this));
+    if (blnShaded_ && isVisible())
+        settling_.start();
+}
+
+QString NumberSelectorButton::GetPictureName(bool blnShaded) const {
     if (intNumber_ == intEraser)
         return QStringLiteral("button_eraser");
     return QStringLiteral("button_%1").arg(intNumber_) +
-           (blnShaded_ ? QStringLiteral("_shaded") : QString());
+           (blnShaded ? QStringLiteral("_shaded") : QString());
+}
+
+void NumberSelectorButton::DrawTile(QPainter& painter, const QRectF& rectPicture) const {
+    const bool blnSettling = settling_.state() == QAbstractAnimation::Running;
+    DrawPicture(painter, rectPicture, GetPictureName(blnShaded_ && !blnSettling));
+    if (blnSettling) {
+        painter.setOpacity(settling_.currentValue().toDouble());
+        DrawPicture(painter, rectPicture, GetPictureName(true));
+        painter.setOpacity(1);
+    }
+    if (!isEnabled() || (!isDown() && !underMouse()))
+        return;
+    QColor colorTint = palette().color(QPalette::Highlight);
+    colorTint.setAlpha(isDown() ? intPressAlpha : intHoverAlpha);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colorTint);
+    const double dblRadius = dblTileRadius * dblZoom_;
+    painter.drawRoundedRect(rectPicture, dblRadius, dblRadius);
 }
 
 void NumberSelectorButton::paintEvent(QPaintEvent*) {
@@ -76,8 +114,10 @@ void NumberSelectorButton::paintEvent(QPaintEvent*) {
     // The frame's room stays free on every side, framed or not.
     const double dblLine = SnapWidth(painter, dblZoom_);
     const QRectF rectFrame = SnapInside(painter, rect());
-    const QRectF rectPicture = rectFrame.adjusted(dblLine, dblLine, -dblLine, -dblLine);
-    DrawPicture(painter, rectPicture, GetPictureName());
+    // A pressed button sinks by the width of a line.
+    const QRectF rectPicture = rectFrame.adjusted(dblLine, dblLine, -dblLine, -dblLine)
+                                   .translated(0, isDown() ? dblLine : 0);
+    DrawTile(painter, rectPicture);
     if (blnFramed_)
         DrawFrame(painter, rectFrame, ToQColor(lngFrameColor_), dblZoom_);
     // Within the tile, whose light face is the same on every desk.
@@ -89,9 +129,15 @@ void NumberSelectorButton::paintEvent(QPaintEvent*) {
 
 void NumberSelectorButton::mousePressEvent(QMouseEvent* event) {
     event->accept();
+    setDown(true);
+}
+
+void NumberSelectorButton::mouseMoveEvent(QMouseEvent* event) {
+    setDown(event->buttons() != Qt::NoButton && rect().contains(event->position().toPoint()));
 }
 
 void NumberSelectorButton::mouseReleaseEvent(QMouseEvent* event) {
+    setDown(false);
     if (rect().contains(event->position().toPoint()))
         emit released(event->button() == Qt::RightButton, event->globalPosition().toPoint());
 }

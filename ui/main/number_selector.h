@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QVariantAnimation>
 
 #include "core/modCommon_Constants.h"
 #include "core/numbered.h"
@@ -11,7 +12,8 @@ struct NumberButtonView;
 struct View;
 
 /// `picButton(n)`: a digit 1 to 9 or 10, the eraser. With the frame that the view gives
-/// it, and another picture when its digit is complete.
+/// it, and another picture when its digit is complete, which settles over the first one. It answers
+/// to the pointer and to its press.
 class NumberSelectorButton final : public QAbstractButton {
     Q_OBJECT
 
@@ -30,19 +32,23 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void nextCheckState() override;
 
 private:
-    QString GetPictureName() const;
+    QString GetPictureName(bool blnShaded) const;
     QPoint GetPopupPosition() const;
+    void DrawTile(QPainter& painter, const QRectF& rectPicture) const;
+    void Settle();
 
     int intNumber_;
     double dblZoom_ = 1;
     bool blnFramed_ = false;
     bool blnShaded_ = false;
+    QVariantAnimation settling_{this}; ///< from the plain picture, 0, to the shaded one, 1
     Color lngFrameColor_ = lngColorBlack;
 };
 

@@ -39,7 +39,7 @@ constexpr double dblTitleRight = 2175;
 constexpr double dblValueLeft = 2400;
 constexpr double dblFrameInset = 120;
 constexpr double dblHairlineInset = 360;
-constexpr double dblHairlineOpacity = 0.15;
+constexpr float dblHairlineOpacity = 0.15F;
 
 /// The labels have the text colour of the pane they lie in.
 void SetTextColor(QWidget& pane, const QColor& color) {
