@@ -112,7 +112,8 @@ void Recovery::Observe(Game& game) {
         return cell.blnGiven == seen.blnGiven && cell.strSolution == seen.strSolution &&
                cell.strEntry == seen.strEntry && cell.strNotes == seen.strNotes;
     };
-    if (std::ranges::equal(game.cells, cells_, IsSeen))
+    if (std::exchange(strGameFile_, game.strGameFile) == game.strGameFile &&
+        std::ranges::equal(game.cells, cells_, IsSeen))
         return;
     cells_ = TakeGame(game).cells;
     game.desktop.EnableTimer(Timer::tmrRecovery, true);

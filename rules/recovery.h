@@ -23,9 +23,9 @@ public:
     Recovery(const Recovery&) = delete;
     Recovery& operator=(const Recovery&) = delete;
 
-    /// To be called after every event. A change of the cells starts `tmrRecovery`, which then calls
-    /// `tmrRecovery_Timer` a second later; a score that waits is written before this returns. What
-    /// needs no copy any more has its copy removed.
+    /// To be called after every event. A change of the cells or of the game's file starts
+    /// `tmrRecovery`, which then calls `tmrRecovery_Timer` a second later; a score that waits is
+    /// written before this returns. What needs no copy any more has its copy removed.
     void Observe(Game& game);
 
     /// Writes the game.
@@ -79,7 +79,8 @@ private:
     std::string strFolder_;
     std::string strOldFolder_;
     std::shared_ptr<Place> place_;            ///< shared with the writes to it, which need its lock
-    Numbered<SavedCell, intCellCount> cells_; ///< as last seen, and so are the next three
+    Numbered<SavedCell, intCellCount> cells_; ///< as last seen, and so are the next four
+    std::string strGameFile_;
     WaitingScore score_;
     int intGames_ = 0;
     bool blnOwed_ = false;

@@ -601,6 +601,7 @@ private:
         // A change is kept a second after it was made, the clock at every tenth second.
         PassTime(Timer::tmrRecovery, 1);
         model::Position kept = model_.game;
+        const std::string strFile = model_.strFile;
         const bool blnRestore = Chance(80);
         ThenPress("Restore Game?", blnRestore ? QMessageBox::Yes : QMessageBox::No);
         model_.Restart();
@@ -613,6 +614,7 @@ private:
         EXPECT_TRUE(intLost >= 0 && intLost < 10) << strMove_ << ": " << intLost << " s lost";
         kept.intSeconds = intNow;
         model_.Open(kept);
+        model_.strFile = strFile;
         model_.blnChanged = true;
     }
 
