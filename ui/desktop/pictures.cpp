@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
@@ -80,8 +81,13 @@ void SetProgramIcon([[maybe_unused]] QWidget& window) {
 }
 
 QCursor MakePointer(const QString& strName, qreal dblDevicePixelRatio) {
-    return QCursor(MakePixmap(strName, {intPointerSize, intPointerSize}, dblDevicePixelRatio),
-                   intPointerTip, intPointerTip);
+    // An X server counts both in its own pixels, and the toolkit hands them over as they are.
+    const bool blnOfDevice = QGuiApplication::platformName() == QStringLiteral("xcb");
+    const qreal dblScale = blnOfDevice ? dblDevicePixelRatio : 1;
+    const int intSize = qRound(intPointerSize * dblScale);
+    const int intTip = qRound(intPointerTip * dblScale);
+    return QCursor(MakePixmap(strName, {intSize, intSize}, dblDevicePixelRatio / dblScale), intTip,
+                   intTip);
 }
 
 } // namespace cellora
