@@ -7,9 +7,9 @@
 #include <QStyleOption>
 #include <QWidget>
 
-#include "ui/desktop/crisp.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/pictures.h"
+#include "ui/desktop/snap.h"
 
 namespace cellora {
 
@@ -117,7 +117,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
             DrawRing(*painter, *option, 0);
         break;
     case PE_Frame:
-        DrawCrispFrame(*painter, option->rect, option->palette.color(QPalette::Mid));
+        DrawFrame(*painter, option->rect, option->palette.color(QPalette::Mid));
         if (HasKeyboard(*option))
             DrawRing(*painter, *option, 0);
         break;

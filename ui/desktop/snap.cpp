@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QPainter>
+#include <QPen>
 
 #include "ui/desktop/pictures.h"
 
@@ -15,6 +16,9 @@ namespace {
 /// An edge that lies on a device pixel but for the error of the computation stays there.
 constexpr double dblTolerance = 0.01;
 
+constexpr double dblRingWidth = 1.25; ///< one device pixel at the plain scale, then two
+constexpr double dblRingRadius = 2;
+
 QRect GetDeviceRect(const QPainter& painter, const QRectF& rect) {
     const QRectF device = painter.deviceTransform().mapRect(rect);
     const QPoint topLeft(static_cast<int>(std::ceil(device.left() - dblTolerance)),
@@ -24,6 +28,11 @@ QRect GetDeviceRect(const QPainter& painter, const QRectF& rect) {
     return {topLeft, end - QPoint(1, 1)};
 }
 
+/// Half a pixel is left off: the room beside a line of one pixel is not wider.
+double CountPixels(const QPainter& painter, double dblWidth) {
+    return std::max(1.0, std::round(dblWidth * painter.deviceTransform().m11() - dblTolerance));
+}
+
 } // namespace
 
 QRectF SnapInside(const QPainter& painter, const QRectF& rect) {
@@ -31,18 +40,28 @@ QRectF SnapInside(const QPainter& painter, const QRectF& rect) {
 }
 
 double SnapWidth(const QPainter& painter, double dblWidth) {
-    const double dblScale = painter.deviceTransform().m11();
-    return std::max(1.0, std::floor(dblWidth * dblScale + dblTolerance)) / dblScale;
+    return CountPixels(painter, dblWidth) / painter.deviceTransform().m11();
 }
 
-void DrawFrame(QPainter& painter, const QRectF& rect, const QColor& color, double dblWidth) {
-    const QRectF outer = SnapInside(painter, rect);
-    const double dblLine = SnapWidth(painter, dblWidth);
-    const QRectF inner = outer.adjusted(0, dblLine, 0, -dblLine);
-    painter.fillRect(QRectF(outer.topLeft(), inner.topRight()), color);
-    painter.fillRect(QRectF(inner.bottomLeft(), outer.bottomRight()), color);
-    painter.fillRect(QRectF(inner.topLeft(), QSizeF(dblLine, inner.height())), color);
-    painter.fillRect(QRectF(inner.topRight() - QPointF(dblLine, 0), inner.bottomRight()), color);
+void DrawFrame(QPainter& painter, const QRectF& rect, const QColor& color, double dblWidth,
+               double dblRadius) {
+    const QTransform toDevice = painter.deviceTransform();
+    const double dblPixels = CountPixels(painter, dblWidth);
+    const double dblInset = dblPixels / 2;
+    const double dblDeviceRadius = dblRadius * toDevice.m11();
+    const QRectF outer(GetDeviceRect(painter, rect));
+    painter.save();
+    painter.setTransform(toDevice.inverted(), true);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, dblPixels, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(outer.adjusted(dblInset, dblInset, -dblInset, -dblInset),
+                            dblDeviceRadius, dblDeviceRadius);
+    painter.restore();
+}
+
+void DrawFocusRing(QPainter& painter, const QRectF& rect, const QColor& color) {
+    DrawFrame(painter, rect, color, dblRingWidth, dblRingRadius);
 }
 
 void DrawPicture(QPainter& painter, const QRectF& rect, const QString& strName) {

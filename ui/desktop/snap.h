@@ -15,11 +15,16 @@ namespace cellora {
 QRectF SnapInside(const QPainter& painter, const QRectF& rect);
 
 /// The width of a line of that many units of the painter's measure, in the same measure: whole
-/// device pixels, one of them at least.
+/// device pixels, the nearest number of them and one at least.
 double SnapWidth(const QPainter& painter, double dblWidth);
 
 /// A line along the inner edge of a rectangle, as wide on every side. Both are snapped.
-void DrawFrame(QPainter& painter, const QRectF& rect, const QColor& color, double dblWidth = 1);
+void DrawFrame(QPainter& painter, const QRectF& rect, const QColor& color, double dblWidth = 1,
+               double dblRadius = 0);
+
+/// The mark of the control that has the keyboard, the same in every window: a ring just inside a
+/// rectangle.
+void DrawFocusRing(QPainter& painter, const QRectF& rect, const QColor& color);
 
 /// The picture of that name drawn from its vectors into a snapped rectangle.
 void DrawPicture(QPainter& painter, const QRectF& rect, const QString& strName);

@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "ui/desktop/crisp.h"
+#include "ui/desktop/snap.h"
 
 namespace cellora {
 
@@ -16,7 +16,8 @@ void ColorSwatch::SetColor(const QColor& color) {
 
 void ColorSwatch::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    DrawCrispFrame(painter, rect(), palette().color(QPalette::Shadow), color_);
+    painter.fillRect(SnapInside(painter, rect()), color_);
+    DrawFrame(painter, rect(), palette().color(QPalette::Shadow));
 }
 
 } // namespace cellora

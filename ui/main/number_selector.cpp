@@ -7,7 +7,6 @@
 #include <QStyle>
 
 #include "rules/view.h"
-#include "ui/desktop/crisp.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/snap.h"
