@@ -49,8 +49,9 @@ struct Rewriting {
 /// already.
 Rewriting KeepDamagedFile(FilePort& files, const std::string& strFile, std::string_view bytes) {
     for (int intCopy = 1; intCopy <= intMaxCopies; ++intCopy) {
-        const std::string strNumber = intCopy == 1 ? "" : "-" + std::to_string(intCopy);
-        const std::string strCopy = strFile + ".damaged" + strNumber;
+        std::string strCopy = strFile + ".damaged";
+        if (intCopy > 1)
+            strCopy.append("-").append(std::to_string(intCopy));
         const ReadResult kept = ReadWholeFile(files, strCopy, lngMaxHallOfFameBytes);
         if (kept && kept.bytes == bytes)
             return {std::nullopt, strCopy};

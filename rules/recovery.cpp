@@ -51,6 +51,16 @@ void TellOfCopy(Game& game, const std::string& strReason, std::string_view strAd
                           MessageIcon::Exclamation);
 }
 
+void Restore(Game& game, const RecoveryCopy& copy) {
+    game.score = copy.score;
+    ShowSavedGame(game, copy.savedGame);
+    game.strGameFile = copy.strGameFile;
+    game.blnGameChanged = true;
+    game.blnSaveOwed = game.phase == Phase::Finished && !copy.score.blnWaits;
+    if (copy.score.blnWaits)
+        EndWaitingGame(game);
+}
+
 } // namespace
 
 Recovery::Recovery(FilePort& files, const std::string& strProgramFolder)
@@ -193,16 +203,6 @@ Recovery::Offer Recovery::OfferCopy(Game& game, const std::shared_ptr<Place>& pl
     blnWritten_ = true;
     Restore(game, *copy);
     return Offer::Opened;
-}
-
-void Recovery::Restore(Game& game, const RecoveryCopy& copy) {
-    game.score = copy.score;
-    ShowSavedGame(game, copy.savedGame);
-    game.strGameFile = copy.strGameFile;
-    game.blnGameChanged = true;
-    game.blnSaveOwed = game.phase == Phase::Finished && !copy.score.blnWaits;
-    if (copy.score.blnWaits)
-        EndWaitingGame(game);
 }
 
 void Recovery::PutAside(Game& game, const std::string& strFile) {

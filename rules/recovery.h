@@ -72,7 +72,6 @@ private:
 
     Offer OfferCopy(Game& game, const std::shared_ptr<Place>& place);
     void TakeOverOldCopies();
-    void Restore(Game& game, const RecoveryCopy& copy);
     void PutAside(Game& game, const std::string& strFile);
 
     FilePort& files_;

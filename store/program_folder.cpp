@@ -40,12 +40,16 @@ bool CanCreateFile(FilePort& files, const std::string& strFolder) {
 
 /// The folder and those it lies in, as far as they are missing. Failures are ignored.
 void MakeFolders(FilePort& files, std::string strFolder) {
-    while (!strFolder.empty() && strFolder == GetFolderFromPath(strFolder))
-        strFolder.pop_back();
-    if (strFolder.empty() || PathExists(files, strFolder))
-        return;
-    MakeFolders(files, GetFolderFromPath(strFolder));
-    files.MakeFolder(strFolder);
+    std::vector<std::string> missing;
+    for (;; strFolder = GetFolderFromPath(strFolder)) {
+        while (!strFolder.empty() && strFolder == GetFolderFromPath(strFolder))
+            strFolder.pop_back();
+        if (strFolder.empty() || PathExists(files, strFolder))
+            break;
+        missing.push_back(strFolder);
+    }
+    for (; !missing.empty(); missing.pop_back())
+        files.MakeFolder(missing.back());
 }
 
 bool HoldsFiles(FilePort& files, const std::string& strFolder) {

@@ -68,30 +68,32 @@ std::error_code WriteAll(FilePort& files, FileHandle file, std::string_view byte
 }
 
 /// Creates the file that is to take the other's place, in the same folder.
-std::error_code CreateBeside(FilePort& files, const std::string& strPath, std::string& strTemporary,
+std::error_code CreateBeside(FilePort& files, const std::string& strFile, std::string& strTemporary,
                              FileHandle& file) {
     auto error = std::make_error_code(std::errc::file_exists);
     for (int n = 0; n < intMaxNames && error == std::errc::file_exists; ++n) {
-        strTemporary = GetFolderFromPath(strPath) + MakeTemporaryName();
-        error = files.Create(strTemporary, strPath, file);
+        strTemporary = GetFolderFromPath(strFile) + MakeTemporaryName();
+        error = files.Create(strTemporary, strFile, file);
     }
     return error;
 }
 
-std::error_code ReplaceRegularFile(FilePort& files, const std::string& strPath,
+std::error_code ReplaceRegularFile(FilePort& files, const std::string& strFile,
                                    std::string_view bytes) {
     std::string strTemporary;
     FileHandle file = FileHandle::None;
-    if (const auto error = CreateBeside(files, strPath, strTemporary, file))
+    if (const auto error = CreateBeside(files, strFile, strTemporary, file))
         return error;
     auto error = WriteAll(files, file, bytes);
     const auto closeError = files.Close(file);
     error = error ? error : closeError;
     if (!error)
-        error = files.Rename(strTemporary, strPath);
+        error = files.Rename(strTemporary, strFile);
+    // The file is the new one from here on; a caller told otherwise would do its work twice.
     if (!error)
-        return files.FlushFolder(GetFolderFromPath(strPath));
-    files.Remove(strTemporary);
+        files.FlushFolder(GetFolderFromPath(strFile));
+    else
+        files.Remove(strTemporary);
     return error;
 }
 

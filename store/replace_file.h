@@ -33,7 +33,8 @@ ReadResult ReadWholeFile(FilePort& files, const std::string& strPath, std::size_
 /// the old one, so a crash or a full disk at any moment leaves the old file or the new one. A
 /// symbolic link is kept and the file it leads to replaced; nothing but a regular file is.
 /// Returns nothing when done, otherwise one sentence for the player that gives the reason; the file
-/// is then as it was before, or the new one where only its name may not have reached the disk.
+/// is then as it was before. A folder that cannot be flushed is no failure: the file is in its
+/// place.
 std::optional<std::string> ReplaceFile(FilePort& files, const std::string& strPath,
                                        std::string_view bytes);
 

@@ -118,8 +118,9 @@ std::error_code SystemFiles::FollowLinks(const std::string& strPath, std::string
         const ssize_t lngSize = readlink(ToPath(strTarget), aTarget, sizeof aTarget);
         if (lngSize < 0)
             return errno == EINVAL || errno == ENOENT ? std::error_code() : LastError();
-        const std::string strNext(aTarget, static_cast<std::size_t>(lngSize));
-        strTarget = strNext.starts_with('/') ? strNext : GetFolderFromPath(strTarget) + strNext;
+        const std::string_view strNext(aTarget, static_cast<std::size_t>(lngSize));
+        strTarget = strNext.starts_with('/') ? std::string() : GetFolderFromPath(strTarget);
+        strTarget.append(strNext);
     }
     return std::make_error_code(std::errc::too_many_symbolic_link_levels);
 }
