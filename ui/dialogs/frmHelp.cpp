@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabWidget>
 
 #include "core/modCellora.h"
@@ -65,6 +66,15 @@ void frmHelp::MakeTabs() {
     tab_->addTab(MakeControlsPage(), QStringLiteral("Controls"));
     tab_->addTab(MakeMenusPage(), QStringLiteral("Menus"));
     tab_->addTab(MakeHistoryPage(), QStringLiteral("History"));
+    // The tab control itself hears these keys only while the keyboard is in it.
+    connect(new QShortcut(QKeySequence::NextChild, this), &QShortcut::activated, this,
+            [this] { TurnPages(1); });
+    connect(new QShortcut(QKeySequence::PreviousChild, this), &QShortcut::activated, this,
+            [this] { TurnPages(-1); });
+}
+
+void frmHelp::TurnPages(int intPages) {
+    ShowTab((tab_->currentIndex() + tab_->count() + intPages) % tab_->count());
 }
 
 } // namespace cellora

@@ -24,6 +24,9 @@ private:
     void MakePicture();
     void MakeTabs();
 
+    /// Turns that many pages forward, or back by one; behind the last page comes the first.
+    void TurnPages(int intPages);
+
     QTabWidget* tab_ = nullptr;
     QCheckBox* chkStartup_ = nullptr;
 };
