@@ -10,6 +10,7 @@
 #include "rules/completion.h"
 #include "rules/game_file.h"
 #include "store/modCommon_File.h"
+#include "store/program_folder.h"
 
 namespace cellora {
 
@@ -169,6 +170,7 @@ void Recovery::End(const Game& game) {
 }
 
 void Recovery::OfferToRestore(Game& game) {
+    RemoveOldTemporaries(files_, strFolder_);
     TakeOverOldCopies();
     for (int intCopy = 1; intCopy <= intMaxCopies; ++intCopy) {
         const std::string strFile = GetFile(intCopy);

@@ -6,7 +6,7 @@ namespace cellora {
 
 /// The disks of this computer. The only place that knows the systems' calls for files:
 /// system_files_posix.cpp and system_files_windows.cpp.
-class SystemFiles final : public FilePort {
+class SystemFiles : public FilePort {
 public:
     std::error_code GetStatus(const std::string& strPath, PathStatus& status) override;
     std::error_code FollowLinks(const std::string& strPath, std::string& strTarget) override;

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <latch>
 #include <memory>
 #include <random>
 #include <thread>
@@ -127,6 +128,35 @@ TEST(Recovery, KeepsTheGamesOfNineCopies) {
     for (const auto& copy : copies)
         copy->End(player.game);
     next.End(player.game);
+    EXPECT_EQ(player.folder.Count(), 0);
+}
+
+/// A disk on which nothing is flushed before it is let go.
+class StuckFiles final : public SystemFiles {
+public:
+    std::error_code Flush(FileHandle file) override {
+        disk.wait();
+        return SystemFiles::Flush(file);
+    }
+
+    std::latch disk{1};
+};
+
+TEST(Recovery, LetsThePlayerGoOnWhileTheDiskHangs) {
+    Player player;
+    player.Play("puzzle");
+    StuckFiles files;
+    Recovery recovery(files, player.folder.Path());
+    for (const char* const strMove : {"put 1 1", "put 2 1", "put 3 1"}) {
+        player.Play(strMove);
+        recovery.tmrRecovery_Timer(player.game);
+    }
+    files.disk.count_down();
+    EXPECT_TRUE(recovery.Wait());
+    const auto copy = ParseRecoveryCopy(player.folder.ReadBytes(".recovery/copy-1"));
+    ASSERT_TRUE(copy);
+    EXPECT_EQ(copy->savedGame, TakeGame(player.game)) << "the newest state wins";
+    recovery.End(player.game);
     EXPECT_EQ(player.folder.Count(), 0);
 }
 
