@@ -17,7 +17,12 @@ namespace {
 
 constexpr int intLongestAnimation = 150; ///< milliseconds
 constexpr int intMessageIconSize = 32;
+constexpr int intHoverTint = 31; ///< of 255
+constexpr int intHoverEdge = 90;
+constexpr int intDownTint = 72;
+constexpr int intDownEdge = 153;
 constexpr int intRingInset = 2; ///< of a button, whose own edge tells something else
+constexpr int intTabRingInset = 4;
 
 bool HasKeyboard(const QStyleOption& option) {
     return option.state.testFlag(QStyle::State_HasFocus) &&
@@ -27,6 +32,28 @@ bool HasKeyboard(const QStyleOption& option) {
 void DrawRing(QPainter& painter, const QStyleOption& option, int intInset) {
     DrawFocusRing(painter, option.rect.adjusted(intInset, intInset, -intInset, -intInset),
                   option.palette.color(QPalette::Highlight));
+}
+
+/// The toolkit's own line leaves a gap after each menu at most scales.
+void DrawMenuBarEdge(QPainter& painter, const QStyleOption& option) {
+    const double dblLine = SnapWidth(painter, 1);
+    QRectF edge = option.rect;
+    edge.setBottom(SnapInside(painter, edge).bottom());
+    edge.setTop(edge.bottom() - 2 * dblLine);
+    painter.fillRect(edge, option.palette.window());
+    edge.setTop(edge.bottom() - dblLine);
+    painter.fillRect(edge, option.palette.color(QPalette::Midlight));
+}
+
+/// Under a picture of the toolbar: a tint of the colour that marks things elsewhere, deeper while
+/// the button is down.
+void DrawToolButton(QPainter& painter, const QStyleOption& option) {
+    QColor color = option.palette.color(QPalette::Highlight);
+    const bool blnDown = option.state.testFlag(QStyle::State_Sunken);
+    color.setAlpha(blnDown ? intDownTint : intHoverTint);
+    painter.fillRect(SnapInside(painter, option.rect), color);
+    color.setAlpha(blnDown ? intDownEdge : intHoverEdge);
+    DrawFrame(painter, option.rect, color);
 }
 
 QString GetMessageIconName(QStyle::StandardPixmap which) {
@@ -121,6 +148,12 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         if (HasKeyboard(*option))
             DrawRing(*painter, *option, 0);
         break;
+    case PE_PanelButtonTool:
+        if (option->state.testFlag(State_AutoRaise))
+            DrawToolButton(*painter, *option);
+        else
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        break;
     case PE_FrameLineEdit:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         if (HasKeyboard(*option))
@@ -143,9 +176,21 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
             DrawTick(*painter, *item);
         return;
     }
+    if (const auto* const tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+        tab != nullptr && element == CE_TabBarTabLabel) {
+        QStyleOptionTab plain = *tab;
+        plain.state.setFlag(State_HasFocus, false); // a tint beside the ring
+        QProxyStyle::drawControl(element, &plain, painter, widget);
+        if (HasKeyboard(*tab))
+            DrawRing(*painter, *tab, intTabRingInset);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     if (element == CE_PushButton && HasKeyboard(*option))
         DrawRing(*painter, *option, intRingInset);
+    if ((element == CE_MenuBarItem || element == CE_MenuBarEmptyArea) &&
+        !option->state.testFlag(State_Selected))
+        DrawMenuBarEdge(*painter, *option);
 }
 
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
