@@ -144,10 +144,12 @@ private slots:
         QTest::mouseClick(&control, GetButton(words), {}, GetPlace(words, control.rect().center()));
     }
 
-    /// cell NUMBER [right|middle|side] [X,Y]; the place is measured from the centre.
+    /// cell NUMBER [right|middle|side] [X,Y]; the place is measured from the centre. A menu that is
+    /// open hears of it first.
     void cell(const QStringList& words) {
-        QTest::mouseClick(run_.grid().viewport(), GetButton(words), {},
-                          run_.GetCenter(words.value(0).toInt()) + GetPlace(words, {}));
+        const QPoint place = run_.GetCenter(words.value(0).toInt()) + GetPlace(words, {});
+        QTest::mouseClick(run_.window().windowHandle(), GetButton(words), {},
+                          run_.grid().viewport()->mapTo(&run_.window(), place));
     }
 
     /// key KEYS..., "Ctrl+S" or "Num+5"

@@ -14,18 +14,24 @@ class ContextMenu : public QMenu {
 public:
     using QMenu::QMenu;
 
+    /// Shows the menu at the place of the click on the screen.
+    void Open(QPoint position);
+
 protected:
-    void showEvent(QShowEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    /// Where the mouse button that is down was pressed.
+    enum class Press { None, Inside, Outside };
+
+    void ReleaseInside(QMouseEvent* event);
     /// Whether the press belongs to the click that opened the menu.
     bool IsDoubleClick(const QMouseEvent& event) const;
 
-    QElapsedTimer sinceShown_;
-    QPoint positionShown_; ///< of the mouse, on the screen
-    bool blnPressed_ = false;
+    QElapsedTimer sinceOpened_;
+    QPoint position_; ///< of the click, on the screen
+    Press press_ = Press::None;
 };
 
 } // namespace cellora

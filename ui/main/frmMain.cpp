@@ -153,12 +153,12 @@ void frmMain::OpenPopup(PopupMenu menu) {
     const View view = MakeView(game_);
     if (menu == PopupMenu::mnuRightClick) {
         mnuRightClick_->Build(view.mnuRightClick);
-        mnuRightClick_->popup(popupPosition_);
+        mnuRightClick_->Open(popupPosition_);
         return;
     }
     mnuHighlight_->setEnabled(view.mnuHighlight.blnEnabled);
     mnuHighlight_->setChecked(view.mnuHighlight.blnChecked);
-    mnuButton_->popup(popupPosition_);
+    mnuButton_->Open(popupPosition_);
 }
 
 void frmMain::Do(const std::function<void(Game&)>& fnCommand) {

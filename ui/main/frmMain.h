@@ -17,6 +17,7 @@ class BoardAnnouncer;
 class BoardView;
 class CellPopup;
 class CommandBars;
+class ContextMenu;
 class NumberSelector;
 class QtDesktop;
 class Recovery;
@@ -96,7 +97,7 @@ private:
     NumberSelector* picButtons_ = nullptr;
     StatisticsPane* picStatistics_ = nullptr;
     CellPopup* mnuRightClick_ = nullptr;
-    QMenu* mnuButton_ = nullptr;
+    ContextMenu* mnuButton_ = nullptr;
     QAction* mnuHighlight_ = nullptr;
     QPoint popupPosition_; ///< on the screen, where the player asked for a menu last
     std::unique_ptr<CommandBars> commandBars_;
