@@ -111,6 +111,16 @@ QPrinter::PrinterState QPrinter::printerState() const {
     return cellora::machine::blnPrinterBroken ? QPrinter::Error : QPrinter::Idle;
 }
 
+/// The print service, as far as it is asked how it took a document.
+QFunctionPointer QLibrary::resolve(const QString& strFile, int intVersion, const char* strRoutine) {
+    using cellora::machine::blnServiceRefuses;
+    if (strFile != QLatin1String("cups"))
+        return QLibrary(strFile, intVersion).resolve(strRoutine);
+    if (QLatin1String(strRoutine) == QLatin1String("cupsLastError"))
+        return reinterpret_cast<QFunctionPointer>(+[] { return blnServiceRefuses ? 0x502 : 1; });
+    return reinterpret_cast<QFunctionPointer>(+[] { return "The printer is on holiday."; });
+}
+
 namespace cellora::machine {
 
 bool IsOffscreen() {
@@ -137,7 +147,7 @@ void Begin() {
     lngTimeSet = lngNow;
     heard.clear();
     blnSessionAsks = true;
-    blnPrinterInstalled = blnPrinterBroken = false;
+    blnPrinterInstalled = blnPrinterBroken = blnServiceRefuses = false;
 }
 
 void Pass(int intMilliseconds) {

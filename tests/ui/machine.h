@@ -25,5 +25,6 @@ bool IsExact();
 inline bool blnSessionAsks = true; ///< the end of the session leaves time to ask
 inline bool blnPrinterInstalled = false;
 inline bool blnPrinterBroken = false;
+inline bool blnServiceRefuses = false; ///< the print service takes no document
 
 } // namespace cellora::machine

@@ -273,10 +273,11 @@ private slots:
         emit qApp->commitDataRequest(*qApp->findChild<QSessionManager*>());
     }
 
-    /// printer none|ready|broken, and in its dialog: printer copies NUMBER
+    /// printer none|ready|broken|refused, and in its dialog: printer copies NUMBER
     void printer(const QStringList& words) {
         machine::blnPrinterInstalled = !words.contains(QLatin1String("none"));
         machine::blnPrinterBroken = words.contains(QLatin1String("broken"));
+        machine::blnServiceRefuses = words.contains(QLatin1String("refused"));
         auto* const dialog = qobject_cast<QPrintDialog*>(&run_.GetActive());
         if (dialog == nullptr)
             return;

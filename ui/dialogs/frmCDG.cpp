@@ -1,6 +1,8 @@
 #include "ui/dialogs/frmCDG.h"
 
+#include <QAbstractButton>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QPrintDialog>
 
 #include "ui/desktop/dialog_traces.h"
@@ -14,6 +16,17 @@ bool ShowCentered(QDialog& cdg) {
     cdg.adjustSize();
     CenterOnScreen(cdg);
     return cdg.exec() == QDialog::Accepted;
+}
+
+/// The toolkit hides the number of copies below a button beside "Print" and "Cancel".
+void ShowCopies(const QPrintDialog& cdg) {
+    const auto* const box = cdg.findChild<QDialogButtonBox*>();
+    if (box == nullptr)
+        return; // the system's own dialog
+    for (QAbstractButton* const button : box->buttons()) {
+        if (box->buttonRole(button) == QDialogButtonBox::ResetRole)
+            button->click();
+    }
 }
 
 } // namespace
@@ -30,6 +43,7 @@ std::optional<QColor> frmCDG::ShowColor() {
 bool frmCDG::ShowPrinter(QPrinter& printer) {
     QPrintDialog cdg(&printer, owner_);
     cdg.setOptions(QAbstractPrintDialog::PrintShowPageSize);
+    ShowCopies(cdg);
     return ShowCentered(cdg);
 }
 

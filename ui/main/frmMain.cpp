@@ -187,7 +187,7 @@ void frmMain::Mirror() {
 }
 
 void frmMain::mnuPrint_Click() {
-    PrintGame(desktop_, scene_, this);
+    PrintGame(desktop_, scene_, game_.strGameFile, this);
     Update();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include <QRectF>
 
 class QGraphicsScene;
@@ -13,11 +15,13 @@ namespace cellora {
 class Desktop;
 
 /// The "Print..." command: asks for printer, copies and orientation over `parent`, then prints.
-/// Without a printer, and when printing fails, the player is told.
-void PrintGame(Desktop& desktop, QGraphicsScene& scene, QWidget* parent);
+/// The job bears the name of the file `strGameFile`, or the program's while that is empty. Without
+/// a printer, and when printing fails, the player is told, in the system's own words if it has any.
+void PrintGame(Desktop& desktop, QGraphicsScene& scene, const std::string& strGameFile,
+               QWidget* parent);
 
 /// Prints the grid in the middle of the whole sheet, one document per copy. False when the printer
-/// failed; copies sent before stay sent.
+/// or its service failed; copies sent before stay sent.
 bool PrintCopies(QPrinter& printer, QGraphicsScene& scene, int intCopies);
 
 /// Draws the grid at its true size in the middle of `page`, which is measured in dots of
