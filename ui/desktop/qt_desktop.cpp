@@ -7,9 +7,12 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTime>
 #include <QTimer>
+#include <QTreeView>
 
 #include "ui/desktop/dialog_traces.h"
 #include "ui/desktop/placing.h"
@@ -35,6 +38,19 @@ static_assert(std::size(aTimerMilliseconds) == static_cast<std::size_t>(Timer::t
 
 /// The last brackets hold the pattern and are not shown.
 constexpr const char* strFilter = "Sudoku Files (*.clp) (*.clp);;All Files (*.*) (*)";
+
+/// The size of the file dialogs where the screen holds it.
+constexpr QSize sizeFileDialog(700, 460);
+
+/// Names take the room that the other columns leave, so nothing is cut beside empty space.
+void ArrangeColumns(const QFileDialog& dialog) {
+    auto* const list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (list == nullptr)
+        return; // the system's own dialog
+    list->header()->setStretchLastSection(false);
+    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
 
 /// The file may be missing, but the folder of a typed name must exist.
 class GameFileDialog final : public QFileDialog {
@@ -192,7 +208,8 @@ std::optional<std::string> QtDesktop::PickFile(const FileRequest& request) {
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.adjustSize();
+    ArrangeColumns(dialog);
+    dialog.resize(sizeFileDialog.boundedTo(dialog.screen()->availableSize()));
     CenterOnScreen(dialog);
     if (Execute(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
