@@ -23,6 +23,7 @@ constexpr int intDownTint = 72;
 constexpr int intDownEdge = 153;
 constexpr int intRingInset = 2; ///< of a button, whose own edge tells something else
 constexpr int intTabRingInset = 4;
+constexpr double dblViewEdge = 0.8; ///< no more device pixels than the view inside leaves free
 
 bool HasKeyboard(const QStyleOption& option) {
     return option.state.testFlag(QStyle::State_HasFocus) &&
@@ -144,7 +145,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
             DrawRing(*painter, *option, 0);
         break;
     case PE_Frame:
-        DrawFrame(*painter, option->rect, option->palette.color(QPalette::Mid));
+        DrawFrame(*painter, option->rect, option->palette.color(QPalette::Mid), dblViewEdge);
         if (HasKeyboard(*option))
             DrawRing(*painter, *option, 0);
         break;
