@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/modCommon_Constants.h"
+#include "core/zoom.h"
 
 /// What the settings file keeps. A fresh object holds the defaults of values that are missing.
 namespace cellora {
@@ -38,6 +39,8 @@ struct Settings {
     bool blnNumberSelector = true;
     bool blnStatistics = true;
     bool blnCellErrors = true;
+
+    std::int16_t intZoom = intPlainZoom; ///< of the board, one of `aZoomSteps`
 
     double dblStartup = 0;     ///< exactly 1: the Instructions open at the start
     std::string strGameFolder; ///< where the file dialogs begin; it may not exist

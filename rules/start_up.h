@@ -15,7 +15,7 @@ std::string GetSettingsFile(const Game& game);
 /// program's own, in the file too.
 void LoadMainWindow(Game& game);
 
-/// Writes the five view choices.
+/// Writes the five view choices and the zoom.
 void UnloadMainWindow(const Game& game);
 
 } // namespace cellora

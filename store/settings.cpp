@@ -30,6 +30,7 @@ struct Row {
     const char* strSection;
     const char* strKey;
     Member member;
+    bool blnSparing = false; ///< the default is not written where the file holds nothing
 };
 
 /// Each group in the order of its writing.
@@ -48,6 +49,7 @@ constexpr Row aRows[] = {
     {SettingsGroup::View, "view", "numberselector", &Settings::blnNumberSelector},
     {SettingsGroup::View, "view", "statistics", &Settings::blnStatistics},
     {SettingsGroup::View, "view", "cellerrors", &Settings::blnCellErrors},
+    {SettingsGroup::View, "view", "zoom", &Settings::intZoom, true},
     {SettingsGroup::Startup, "general", "startup", &Settings::dblStartup},
     {SettingsGroup::Path, "general", "path", &Settings::strGameFolder},
 };
@@ -124,6 +126,10 @@ auto Visit(const Row& row, AnySettings& settings, Use fnUse) {
         row.member);
 }
 
+std::string FormatRow(const Row& row, const Settings& settings) {
+    return Visit(row, settings, [](const auto& value) { return Format(value); });
+}
+
 } // namespace
 
 Settings LoadSettings(FilePort& files, const std::string& strPath) {
@@ -132,17 +138,22 @@ Settings LoadSettings(FilePort& files, const std::string& strPath) {
     for (const Row& row : aRows)
         Visit(row, settings,
               [&](auto& value) { Parse(FindINI(strFile, row.strSection, row.strKey), value); });
+    settings.intZoom = GetNearestZoom(settings.intZoom);
     return settings;
 }
 
 void SaveSettings(FilePort& files, const Settings& settings, SettingsGroup group,
                   const std::string& strPath) {
     std::vector<INIValue> values;
-    for (const Row& row : aRows)
-        if (row.group == group)
-            values.push_back(
-                {row.strSection, row.strKey,
-                 Visit(row, settings, [](const auto& value) { return Format(value); })});
+    for (const Row& row : aRows) {
+        if (row.group != group)
+            continue;
+        const std::string strValue = FormatRow(row, settings);
+        const bool blnSpared = row.blnSparing && strValue == FormatRow(row, {}) &&
+                               ReadINI(files, row.strSection, row.strKey, strPath).empty();
+        if (!blnSpared)
+            values.push_back({row.strSection, row.strKey, strValue});
+    }
     WriteINI(files, values, strPath);
 }
 

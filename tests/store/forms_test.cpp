@@ -78,8 +78,8 @@ std::string Describe(const Settings& settings) {
         strText += Text(' ', lngColor);
     return Text(strText, ", cursor ", settings.intCursorOption, ", view ", settings.blnStatusBar,
                 settings.blnToolbar, settings.blnNumberSelector, settings.blnStatistics,
-                settings.blnCellErrors, ", startup ", settings.dblStartup, ", folder ",
-                settings.strGameFolder);
+                settings.blnCellErrors, ", zoom ", settings.intZoom, ", startup ",
+                settings.dblStartup, ", folder ", settings.strGameFolder);
 }
 
 std::string Describe(const HallOfFameEntry& entry) {

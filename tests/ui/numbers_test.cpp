@@ -41,6 +41,15 @@ TEST(Numbers, EveryCombinationOfPanesHasItsPlaces) {
                         DescribeLayout(input, GetFitWidth(input), GetFitHeight(input)),
                         DescribeLayout(input, 100, 200));
     }
+    for (const std::int16_t intZoom : aZoomSteps) {
+        const LayoutInput input{.intZoom = intZoom};
+        LayoutInput screen{.dblWidth = GetFitWidth(input) * 1.0,
+                           .dblHeight = GetFitHeight(input) * 1.0};
+        EXPECT_EQ(GetLargestZoom(screen), intZoom);
+        --screen.dblHeight;
+        strText += Join("zoom ", intZoom, ", or on a lower screen ", GetLargestZoom(screen), '\n',
+                        DescribeLayout(input, screen.dblWidth, screen.dblHeight + 1));
+    }
     ExpectFile("ui/numbers/layout.txt", strText.toStdString());
 }
 

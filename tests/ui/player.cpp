@@ -191,6 +191,18 @@ private slots:
         run_.Enter(intLast, words.contains(QLatin1String("wrong")) ? intDigit % 9 + 1 : intDigit);
     }
 
+    /// wheel CONTROL EIGHTHS [Ctrl]: of a degree, 120 a notch away from the player.
+    void wheel(const QStringList& words) {
+        QWidget& control = run_.Get(words.value(0));
+        auto* const area = qobject_cast<QAbstractScrollArea*>(&control);
+        const auto modifiers =
+            words.contains(QLatin1String("Ctrl")) ? Qt::ControlModifier : Qt::NoModifier;
+        const QPoint center = control.rect().center();
+        QWheelEvent event(center, control.mapToGlobal(center), {}, {0, words.value(1).toInt()}, {},
+                          modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(area ? area->viewport() : &control, &event);
+    }
+
     /// resize WIDTH HEIGHT
     void resize(const QStringList& words) {
         run_.window().resize(words.value(0).toInt(), words.value(1).toInt());
@@ -339,7 +351,7 @@ void Player::Run(const QWidget* modal) {
 
 void Player::Report() {
     machine::Settle();
-    if (run_.program && run_.program->mainWindow() && run_.window().isEnabled() &&
+    if (run_.program && run_.program->mainWindow() && run_.window().TakesInput() &&
         run_.window().isVisible()) {
         // What time brings has to ask for the keyboard itself.
         if (!told_.last().contains(QLatin1String("> pass")))

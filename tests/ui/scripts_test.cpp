@@ -26,6 +26,8 @@ QStringList Trim(const std::string& strText) {
 class Script : public testing::TestWithParam<std::string> {};
 
 TEST_P(Script, GoesAsWrittenDown) {
+    if (GetParam() == "zoom" && !machine::IsExact())
+        GTEST_SKIP() << "how far it goes is the screen's";
     const std::string strName = "ui/expected/" + GetParam() + ".txt";
     const std::string strScript = ReadTestFile(strName);
     const std::string strPlayed = PlayScript(QString::fromStdString(strScript)).toStdString();

@@ -228,11 +228,14 @@ private:
     void TellProperties(const QObject& object) {
         static const QRegularExpression ofScreen(
             QStringLiteral("^wordWrap|imumSize |Diag|picture"));
+        // Whether there is anything to scroll, and how far to zoom.
+        const bool blnOfScreen = qobject_cast<const QAbstractSlider*>(&object) != nullptr;
         for (const auto& [property, strUsual] : GetProperties(object)) {
             const QString strText = AsText(property, object);
             const QString strFact = Join(property.name(), ' ', strText);
             if (strText != strUsual)
-                ofScreen.match(strFact).hasMatch() ? TellOfScreen(strFact) : Tell(strFact);
+                blnOfScreen || ofScreen.match(strFact).hasMatch() ? TellOfScreen(strFact)
+                                                                  : Tell(strFact);
         }
     }
 

@@ -18,6 +18,7 @@
 #include "rules/selector.h"
 #include "rules/start_up.h"
 #include "rules/view.h"
+#include "rules/zoom.h"
 #include "ui/board/board_accessible.h"
 #include "ui/board/board_view.h"
 #include "ui/desktop/keys.h"
@@ -29,13 +30,22 @@
 #include "ui/main/cell_popup.h"
 #include "ui/main/commands.h"
 #include "ui/main/context_menu.h"
+#include "ui/main/input_lock.h"
 #include "ui/main/layout_pass.h"
 #include "ui/main/number_selector.h"
 #include "ui/main/print.h"
+#include "ui/main/start_card.h"
 #include "ui/main/statistics_pane.h"
 #include "ui/main/window_layout.h"
+#include "ui/main/zoom_slider.h"
 
 namespace cellora {
+
+namespace {
+
+constexpr int intSliderMargin = 8; ///< from the window's edge
+
+} // namespace
 
 frmMain::frmMain(Game& game, QtDesktop& desktop, Recovery& recovery)
     : game_(game), desktop_(desktop), recovery_(recovery) {
@@ -67,14 +77,53 @@ void frmMain::MakeClient() {
     SetBackColor(*picMenuShadow, lngColorButtonShadow);
     QToolBar* const tbrMain = commandBars_->MakeToolbar(client_);
     MakeBorder();
+    MakeStatusBar();
+    MakeZoomKeys();
+    const WindowLayout::Elements elements{client_,        picMenuShadow, tbrMain,
+                                          picBorder_,     picGrid_,      picButtons_,
+                                          picStatistics_, startCard_,    sldZoom_};
+    windowLayout_ = std::make_unique<WindowLayout>(*this, game_, elements, [this] { Update(); });
+    client_->installEventFilter(this); // its resizing is the layout's
+}
+
+void frmMain::MakeStatusBar() {
     auto* const sbrMain = new QStatusBar(this);
     sbrMain->setObjectName(QStringLiteral("sbrMain"));
     sbrMain->setFixedHeight(ToPixels(dblStatusBarHeight));
+    // Drawing the window behind it would take the keyboard away from the slider.
+    sbrMain->setAutoFillBackground(true);
+    sldZoom_ =
+        new ZoomSlider({.fnZoomTo =
+                            [this](int intPercent) {
+                                windowLayout_->Zoom([&](Game& game, std::int16_t intLargest) {
+                                    ZoomTo(game, intPercent, intLargest);
+                                });
+                            },
+                        .fnZoomIn = [this] { windowLayout_->Zoom(ZoomIn); },
+                        .fnZoomOut = [this] { windowLayout_->Zoom(ZoomOut); }},
+                       sbrMain);
+    sbrMain->addPermanentWidget(sldZoom_);
+    sbrMain->setContentsMargins(0, 0, intSliderMargin, 0);
     setStatusBar(sbrMain);
-    const WindowLayout::Elements elements{client_,  picMenuShadow, tbrMain,       picBorder_,
-                                          picGrid_, picButtons_,   picStatistics_};
-    windowLayout_ = std::make_unique<WindowLayout>(*this, game_, elements, [this] { Update(); });
-    client_->installEventFilter(this); // its resizing is the layout's
+}
+
+void frmMain::MakeZoomKeys() {
+    struct ZoomKeys {
+        const char* strName;
+        const char* strKeys;
+        void (*fnZoom)(Game& game, std::int16_t intLargest);
+    };
+    constexpr ZoomKeys aKeys[] = {{"zoomIn", "Ctrl++; Ctrl+=", ZoomIn},
+                                  {"zoomOut", "Ctrl+-", ZoomOut},
+                                  {"zoomReset", "Ctrl+0", ZoomReset}};
+    for (const ZoomKeys& row : aKeys) {
+        auto* const action = new QAction(this);
+        action->setObjectName(QLatin1String(row.strName));
+        action->setShortcuts(QKeySequence::listFromString(QLatin1String(row.strKeys)));
+        connect(action, &QAction::triggered, this,
+                [this, fnZoom = row.fnZoom] { windowLayout_->Zoom(fnZoom); });
+        addAction(action);
+    }
 }
 
 void frmMain::MakeBorder() {
@@ -89,6 +138,9 @@ void frmMain::MakeBorder() {
                 Do([&](Game& game) { picButton_MouseUp(game, intNumber, blnRightButton); });
             });
     MakeGrid();
+    startCard_ = new StartCard({findChild<QAction*>(QStringLiteral("mnuNew")),
+                                findChild<QAction*>(QStringLiteral("mnuOpen"))},
+                               picBorder_);
 }
 
 void frmMain::MakeGrid() {
@@ -174,16 +226,30 @@ void frmMain::Update() {
 void frmMain::Mirror() {
     const View view = MakeView(game_);
     const bool blnGridThere = picGrid_->isVisible() && picGrid_->isEnabled();
+    const int intCursorBefore = picGrid_->grid().intCursorCell;
     picGrid_->Mirror(view);
+    startCard_->Mirror(view);
     if (!blnGridThere)
         FocusGrid(); // the window may be active already
+    if (!blnGridThere || intCursorBefore != view.grid.intCursorCell)
+        RevealCursor();
     picButtons_->Mirror(view);
     picStatistics_->Mirror(view);
     commandBars_->Mirror(view);
     SetBackColor(*picBorder_, view.lngBorderBackColor);
+    sldZoom_->setEnabled(view.picGrid.blnVisible);
     statusBar()->setVisible(view.blnStatusBarVisible);
     if (QAccessible::isActive())
         announcer_->Announce();
+}
+
+void frmMain::RevealCursor() {
+    const QRect rectCell = picGrid_->GetCellRect(picGrid_->grid().intCursorCell);
+    windowLayout_->Reveal(rectCell.translated(picGrid_->pos()));
+}
+
+void frmMain::TakeInput(bool blnTakes) {
+    inputLock_ = blnTakes ? nullptr : std::make_unique<InputLock>(*this);
 }
 
 void frmMain::mnuPrint_Click() {
@@ -210,7 +276,7 @@ void frmMain::mnuAbout_Click() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (!isEnabled() /* under the splash */ || (!IsAnswered(*event) && !AskToLeave())) {
+    if (!TakesInput() || (!IsAnswered(*event) && !AskToLeave())) {
         event->ignore();
         return;
     }
@@ -232,7 +298,7 @@ bool frmMain::IsAnswered(const QCloseEvent& event) const {
 
 void frmMain::EndSession(QSessionManager& manager) {
     answered_.reset();
-    if (!isEnabled())
+    if (!TakesInput())
         return;
     if (!manager.allowsInteraction()) {
         game_.blnSaveOwed = true; // what cannot be asked about
@@ -250,6 +316,8 @@ void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         Form_Activate();
+    if (event->type() == QEvent::WindowStateChange)
+        windowLayout_->StateChanged();
 }
 
 void frmMain::Form_Activate() {
@@ -277,7 +345,16 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
         FocusGrid();
     if (watched == picBorder_ && event->type() == QEvent::KeyPress)
         return picBorder_KeyDown(*static_cast<QKeyEvent*>(event));
+    if (watched == picBorder_ && event->type() == QEvent::Wheel)
+        return picBorder_Wheel(*static_cast<QWheelEvent*>(event));
     return QMainWindow::eventFilter(watched, event);
+}
+
+bool frmMain::picBorder_Wheel(QWheelEvent& event) {
+    if (!event.modifiers().testFlag(Qt::ControlModifier))
+        return windowLayout_->Scroll(event);
+    sldZoom_->Wheel(event);
+    return true;
 }
 
 bool frmMain::picBorder_KeyDown(const QKeyEvent& event) {

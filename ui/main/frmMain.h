@@ -18,11 +18,14 @@ class BoardView;
 class CellPopup;
 class CommandBars;
 class ContextMenu;
+class InputLock;
 class NumberSelector;
 class QtDesktop;
 class Recovery;
+class StartCard;
 class StatisticsPane;
 class WindowLayout;
+class ZoomSlider;
 enum class PopupMenu;
 enum class Timer;
 struct Game;
@@ -44,6 +47,11 @@ public:
 
     /// Runs a command of the rules and shows what it did.
     void Do(const std::function<void(Game&)>& fnCommand);
+
+    /// A window that takes no input looks as always and does nothing, whatever mouse, keyboard and
+    /// the desktop want of it.
+    void TakeInput(bool blnTakes);
+    bool TakesInput() const { return inputLock_ == nullptr; }
 
     WindowLayout& windowLayout() { return *windowLayout_; }
 
@@ -68,6 +76,8 @@ private:
     // Construction.
     void MakeClient();
     void MakeBorder();
+    void MakeStatusBar();
+    void MakeZoomKeys();
     void MakeGrid();
     void MakePopups();
     void ConnectDesktop();
@@ -81,6 +91,8 @@ private:
 
     /// Whether the key was used up; keys that move the keyboard's focus are not.
     bool picBorder_KeyDown(const QKeyEvent& event);
+    bool picBorder_Wheel(QWheelEvent& event);
+    void RevealCursor();
     void Form_Activate();
     void FocusGrid();
     void OnTick(Timer timer);
@@ -96,6 +108,8 @@ private:
     BoardView* picGrid_ = nullptr;
     NumberSelector* picButtons_ = nullptr;
     StatisticsPane* picStatistics_ = nullptr;
+    StartCard* startCard_ = nullptr;
+    ZoomSlider* sldZoom_ = nullptr;
     CellPopup* mnuRightClick_ = nullptr;
     ContextMenu* mnuButton_ = nullptr;
     QAction* mnuHighlight_ = nullptr;
@@ -103,6 +117,7 @@ private:
     std::unique_ptr<CommandBars> commandBars_;
     std::unique_ptr<WindowLayout> windowLayout_;
     std::unique_ptr<BoardAnnouncer> announcer_;
+    std::unique_ptr<InputLock> inputLock_;
 };
 
 } // namespace cellora

@@ -56,10 +56,10 @@ Program::Program(std::function<std::string()> fnFindFolder, std::uint64_t lngRan
 Program::~Program() = default;
 
 void Program::Main() {
-    splash_ = std::make_unique<frmSplash>(
-        frmSplash::Steps{.fnLoad = [this] { LoadMain(); },
-                         .fnEnable = [this] { main_->setEnabled(true); },
-                         .fnStart = [this] { StartMain(); }});
+    splash_ =
+        std::make_unique<frmSplash>(frmSplash::Steps{.fnLoad = [this] { LoadMain(); },
+                                                     .fnEnable = [this] { main_->TakeInput(true); },
+                                                     .fnStart = [this] { StartMain(); }});
     splash_->show();
 }
 
@@ -75,7 +75,7 @@ void Program::LoadMain() {
         InstallControlAccessibility();
         main_ = std::make_unique<frmMain>(*game_, *desktop_, *recovery_);
     }
-    main_->setEnabled(false);
+    main_->TakeInput(false);
     if (!main_->isVisible()) {
         main_->windowLayout().ShowAtStart();
         splash_->raise();
