@@ -56,10 +56,13 @@ void CellClick(Game& game, int intIndex, MouseButton button) {
         ShowCellPopup(game);
         return;
     }
-    Cell& cell = game.cells[intIndex];
-    if (game.settings.blnNumberSelector && !cell.blnGiven)
-        PlaceSelectedNumber(game, cell);
+    if (TakesClick(game, intIndex))
+        PlaceSelectedNumber(game, game.cells[intIndex]);
     game.desktop.RestartTimer(Timer::tmrCellWait);
+}
+
+bool TakesClick(const Game& game, int intCell) {
+    return game.settings.blnNumberSelector && !game.cells[intCell].blnGiven;
 }
 
 void DoKeyDown(Game& game, std::int16_t intKeyCode) {

@@ -30,6 +30,10 @@ int GetKeyDigit(std::int16_t intKeyCode);
 /// on). The caller has made sure that the grid is enabled.
 void CellClick(Game& game, int intIndex, MouseButton button);
 
+/// Whether a left click writes into cell 1 to 81 while the grid is enabled: the number selector is
+/// on and the cell no clue.
+bool TakesClick(const Game& game, int intCell);
+
 /// A key press on the grid or its border; any code may be passed. Nothing happens while no board is
 /// shown or the board is locked.
 void DoKeyDown(Game& game, std::int16_t intKeyCode);

@@ -3,6 +3,7 @@
 #include "core/modCellora.h"
 #include "rules/clock.h"
 #include "rules/contrast.h"
+#include "rules/entry.h"
 #include "rules/notes.h"
 #include "rules/selector.h"
 
@@ -47,7 +48,8 @@ void SetCellColors(CellView& cell, Color lngUser, Color lngComputer, Color lngLi
     cell.lngOutlineColor = lngLine;
 }
 
-void ShowCell(CellView& view, const Cell& cell, const Game& game) {
+void ShowCell(CellView& view, const Game& game, int intCell) {
+    const Cell& cell = game.cells[intCell];
     view.lblSolution.strCaption = cell.strSolution;
     view.lblSolution.blnVisible = cell.blnGiven;
     view.lblCandidate.strCaption = cell.strNotes;
@@ -56,8 +58,11 @@ void ShowCell(CellView& view, const Cell& cell, const Game& game) {
     view.intOutlineWidth = cell.outline.intWidth;
     if (game.phase == Phase::Paused)
         return;
-    if (cell.wrongMark.blnOpaque)
+    view.blnTakesClick = game.IsInPlay() && TakesClick(game, intCell);
+    if (cell.wrongMark.blnOpaque) {
         view.shpWCell = cell.wrongMark.lngColor;
+        view.lngMarkColor = ChooseInk(cell.wrongMark.lngColor);
+    }
     view.blnHighlighted =
         game.intHighlight != 0 && cell.GetShownText() == std::to_string(game.intHighlight);
     if (cell.outline.blnCursorColor)
@@ -102,7 +107,7 @@ void ShowGrid(View& view, const Game& game) {
     grid.intCursorCell = game.intCursorCell;
     grid.intPointer = game.traces.intPointer;
     for (int i = 1; i <= intCellCount; ++i)
-        ShowCell(grid.cells[i], game.cells[i], game);
+        ShowCell(grid.cells[i], game, i);
 }
 
 void ShowPanes(View& view, const Game& game) {

@@ -26,10 +26,12 @@ struct CellView {
     LabelView lblSolution; ///< visible in a given cell
     LabelView lblCandidate;
     LabelView lblCell;
-    std::optional<Color> shpWCell; ///< the fill of a cell that is marked wrong
-    int intOutlineWidth = 1;       ///< of `shpCell`, in pixels of 15 twips
+    std::optional<Color> shpWCell;      ///< the fill of a cell that is marked wrong
+    Color lngMarkColor = lngColorBlack; ///< of the mark in the corner of such a cell
+    int intOutlineWidth = 1;            ///< of `shpCell`, in pixels of 15 twips
     Color lngOutlineColor = lngColorBlack;
     bool blnHighlighted = false;
+    bool blnTakesClick = false; ///< a left click would write here
 
     bool operator==(const CellView&) const = default;
 };

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "core/settings.h"
+#include "store/settings.h"
+#include "store/system_files.h"
+
 namespace cellora {
 namespace {
 
@@ -19,6 +23,17 @@ TEST(Contrast, OnAnyColorThereIsAnInkThatReadsAndOneThatDoesNot) {
     }
     for (const Color lngLight : {lngColorWhite, lngColorLightYellow})
         EXPECT_EQ(Conceal(lngLight), lngColorInactiveCaptionText);
+}
+
+TEST(Contrast, OfTheColorsAsShippedIsEnoughEverywhere) {
+    SystemFiles files;
+    const Colors colors = LoadSettings(files, CELLORA_ASSETS "/cl.ini").colors;
+    for (const ColorSlot behind : {lngColorGridBackground, lngColorGridX, lngColorIncorrectCell}) {
+        for (const ColorSlot text : {lngColorFontUser, lngColorFontComputer})
+            EXPECT_GE(GetContrast(colors[text], colors[behind]), 4.5) << text << " on " << behind;
+        for (const ColorSlot line : {lngColorGridLines, lngColorGridCursor})
+            EXPECT_GE(GetContrast(colors[line], colors[behind]), 3) << line << " on " << behind;
+    }
 }
 
 } // namespace

@@ -11,10 +11,12 @@ namespace {
 
 constexpr int intEraser = 10;
 constexpr int lngWhite = 16777215;
-constexpr int lngBlack = 0;
-constexpr int lngBlue = 16711680;
-constexpr int lngRed = 255;
-constexpr int lngYellow = 12648447;
+constexpr int lngDesk = 14674156;
+constexpr int lngLine = 6509899;
+constexpr int lngUser = 10702622;
+constexpr int lngComputer = 3154975;
+constexpr int lngCursor = 7239183;
+constexpr int lngX = 14545143;
 
 std::string TwoDigits(int intNumber) {
     return (intNumber < 10 ? "0" : "") + std::to_string(intNumber);
@@ -447,22 +449,28 @@ Lines Model::Describe() const {
         const bool blnLit = intHighlight != 0 && cell.GetShown() == intHighlight;
         if (i % 9 == 1)
             lines.push_back(Text("row ", i / 9 + 1, ':'));
-        lines.back() += Text(' ', Digit(cell.intSolution), cell.blnGiven ? '!' : ':',
-                             cell.blnEntryShown ? strEntry : '(' + strEntry + ')',
-                             cell.strNotes.empty() ? "" : '{' + cell.strNotes + '}',
-                             cell.blnMarked && !blnPaused ? 'x' + std::to_string(lngRed) : "",
-                             If(blnLit && !blnPaused, "*"));
+        lines.back() +=
+            Text(' ', Digit(cell.intSolution), cell.blnGiven ? '!' : ':',
+                 cell.blnEntryShown ? strEntry : '(' + strEntry + ')',
+                 cell.strNotes.empty() ? "" : '{' + cell.strNotes + '}',
+                 If(cell.blnMarked && !blnPaused, "x12568313/0"), If(blnLit && !blnPaused, "*"));
         if (cell.intWidth != 1 || cell.blnCursorColor)
             strOutlines +=
-                Text(' ', i, '/', cell.intWidth, '/', cell.blnCursorColor ? lngBlue : lngBlack);
+                Text(' ', i, '/', cell.intWidth, '/', cell.blnCursorColor ? lngCursor : lngLine);
     }
     if (!blnPaused) {
         lines.push_back(Text("outlines:", strOutlines, ", top ", intTop, ", cursor ", intCursor,
                              ", pointer ", intPointer));
-        lines.push_back(Text("colours: ", lngWhite, ' ', lngWhite, ' ', lngWhite, ' ', lngWhite,
-                             ' ', lngYellow, " 0 0 0 0; 0 given, ", lngBlue, " entered, ", lngBlue,
-                             " noted"));
+        lines.push_back(Text("colours: ", lngWhite, ' ', lngDesk, ' ', lngWhite, ' ', lngDesk, ' ',
+                             lngX, ' ', lngLine, " 0 0 0; ", lngComputer, " given, ", lngUser,
+                             " entered, ", lngUser, " noted"));
     }
+    const bool blnTakesClicks = IsInPlay() && !blnPaused && view.blnNumbers;
+    lines.push_back(Text(
+        "cells that take a click: ",
+        blnTakesClicks
+            ? std::ranges::count(game.cells.begin() + 1, game.cells.end(), false, &Cell::blnGiven)
+            : 0));
     lines.emplace_back("buttons:");
     for (int n = 1; n <= intEraser; ++n)
         lines.back() +=

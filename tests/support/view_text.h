@@ -20,15 +20,16 @@ inline std::string ListTrue(const std::vector<std::pair<const char*, bool>>& ite
 }
 
 /// One cell: its solution with "!" where it is shown and ":" where not, the player's digit (in
-/// parentheses while hidden), notes in braces, "x" and the colour of the wrong mark, "*" while
+/// parentheses while hidden), notes in braces, "x" and the colours of the wrong mark, "*" while
 /// highlighted.
 inline std::string Describe(const CellView& cell) {
     const auto& [strEntry, lngColor, blnVisible] = cell.lblCell;
     const std::string& strNotes = cell.lblCandidate.strCaption;
-    return Text(
-        cell.lblSolution.strCaption, cell.lblSolution.blnVisible ? '!' : ':',
-        blnVisible ? strEntry : '(' + strEntry + ')', strNotes.empty() ? "" : '{' + strNotes + '}',
-        cell.shpWCell ? 'x' + std::to_string(*cell.shpWCell) : "", cell.blnHighlighted ? "*" : "");
+    return Text(cell.lblSolution.strCaption, cell.lblSolution.blnVisible ? '!' : ':',
+                blnVisible ? strEntry : '(' + strEntry + ')',
+                strNotes.empty() ? "" : '{' + strNotes + '}',
+                cell.shpWCell ? Text('x', *cell.shpWCell, '/', cell.lngMarkColor) : "",
+                cell.blnHighlighted ? "*" : "");
 }
 
 inline std::string Describe(const Numbered<PopupItem, 9>& items) {
@@ -76,11 +77,13 @@ inline std::vector<std::string> Describe(const View& view) {
              statistics.lblCellsToSolve, " to solve | ", statistics.lblIncorrectCells, " wrong")};
     std::set<std::string> colors;
     std::string strOutlines;
+    int intTakingClicks = 0;
     for (int i = 1; i <= intCellCount; ++i) {
         const CellView& cell = grid.cells[i];
         if (i % 9 == 1)
             lines.push_back(Text("row ", i / 9 + 1, ':'));
         lines.back() += ' ' + Describe(cell);
+        intTakingClicks += cell.blnTakesClick ? 1 : 0;
         colors.insert(Text("; ", cell.lblSolution.lngForeColor, " given, ",
                            cell.lblCell.lngForeColor, " entered, ", cell.lblCandidate.lngForeColor,
                            " noted",
@@ -97,6 +100,7 @@ inline std::vector<std::string> Describe(const View& view) {
                          ' ', statistics.lngTextColor, ' ', view.picButton[1].lngFrameColor));
     for (const std::string& strColor : colors)
         lines.back() += strColor;
+    lines.push_back(Text("cells that take a click: ", intTakingClicks));
     lines.emplace_back("buttons:");
     for (int n = 1; n <= intEraser; ++n) {
         const NumberButtonView& button = view.picButton[n];

@@ -18,7 +18,17 @@ constexpr qreal dblRegionSize = 2175;
 
 /// From back to front. Digits of the player lie in front of the outlines except the one that was
 /// brought to the front last.
-enum class Layer { Region, WrongCell, Highlight, RegionOutline, Border, Cell, Entry, TopOutline };
+enum class Layer {
+    Region,
+    WrongCell,
+    Hint,
+    Highlight,
+    RegionOutline,
+    Border,
+    Cell,
+    Entry,
+    TopOutline
+};
 
 void Stack(QGraphicsItem& item, Layer layer) {
     item.setZValue(static_cast<qreal>(layer));
@@ -63,6 +73,8 @@ BoardScene::BoardScene() : grid_(std::make_unique<GridView>()) {
     // The elements never move, so an index of their places would only cost.
     setItemIndexMethod(NoIndex);
     MakeRegions();
+    shpHint_ = new HintItem({dblCellSize, dblCellSize}, *this);
+    Stack(*shpHint_, Layer::Hint);
     for (int i = 1; i <= intCellCount; ++i)
         MakeCell(i);
 }
@@ -83,19 +95,24 @@ void BoardScene::MakeRegions() {
 
 void BoardScene::MakeCell(int i) {
     const QFont fontDigit = MakeSceneFont(24, Weight::Bold);
+    const QPointF cell = GetCellRect(i).topLeft();
     CellItems& items = cells_[i];
     items.shpWCell = new ShapeItem(GetCellRect(i), 1, *this);
     Stack(*items.shpWCell, Layer::WrongCell);
     items.shpHighlight = new RingItem(GetRingRect(i), *this);
     items.shpHighlight->setVisible(false);
     Stack(*items.shpHighlight, Layer::Highlight);
-    items.shpCell = new ShapeItem(GetCellRect(i), 1, *this);
+    items.shpMark = new MarkItem(GetCellRect(i), *this);
+    items.shpMark->setVisible(false);
+    Stack(*items.shpMark, Layer::Highlight);
+    items.shpCell = new CellOutlineItem(GetCellRect(i), GetColumn(i) == 0, GetRow(i) == 0, *this);
     Stack(*items.shpCell, Layer::Cell);
-    items.lblSolution = new LabelItem(GetDigitRect(i), fontDigit, Qt::AlignHCenter, *this);
+    items.lblSolution = new LabelItem(GetDigitRect(i), cell, fontDigit, Qt::AlignHCenter, *this);
     Stack(*items.lblSolution, Layer::Cell);
-    items.lblCandidate = new LabelItem(GetNotesRect(i), MakeSceneFont(8), Qt::AlignLeft, *this);
+    items.lblCandidate =
+        new LabelItem(GetNotesRect(i), cell, MakeSceneFont(8), Qt::AlignLeft, *this);
     Stack(*items.lblCandidate, Layer::Cell);
-    items.lblCell = new LabelItem(GetDigitRect(i), fontDigit, Qt::AlignHCenter, *this);
+    items.lblCell = new LabelItem(GetDigitRect(i), cell, fontDigit, Qt::AlignHCenter, *this);
     Stack(*items.lblCell, Layer::Entry);
 }
 
@@ -108,6 +125,16 @@ void BoardScene::Mirror(const GridView& grid, std::int32_t lngBackColor) {
             MirrorCell(i, grid.cells[i]);
     MirrorStacking(grid.intTopOutline);
     *grid_ = grid;
+    HintCell(intHinted_);
+}
+
+void BoardScene::HintCell(int intCell) {
+    intHinted_ = intCell;
+    if (intCell != 0 && grid_->cells[intCell].blnTakesClick)
+        shpHint_->Show(GetCellRect(intCell).topLeft(),
+                       ToQColor(grid_->cells[intCell].lblCell.lngForeColor));
+    else
+        shpHint_->setVisible(false);
 }
 
 void BoardScene::MirrorRegions(const GridView& grid) {
@@ -123,6 +150,8 @@ void BoardScene::MirrorRegions(const GridView& grid) {
 void BoardScene::MirrorCell(int i, const CellView& cell) {
     const CellItems& items = cells_[i];
     items.shpWCell->SetFill(cell.shpWCell ? ToQColor(*cell.shpWCell) : QColor());
+    items.shpMark->setVisible(cell.shpWCell.has_value());
+    items.shpMark->SetColor(ToQColor(cell.lngMarkColor));
     items.shpHighlight->setVisible(cell.blnHighlighted);
     items.shpCell->SetOutline(cell.intOutlineWidth, ToQColor(cell.lngOutlineColor));
     MirrorLabel(*items.lblSolution, cell.lblSolution);

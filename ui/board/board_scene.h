@@ -26,6 +26,9 @@ public:
     /// `lngBackColor` is the colour of `picGrid`, which is printed with the grid.
     void Mirror(const GridView& grid, std::int32_t lngBackColor);
 
+    /// Tints that cell while a click would write there; 0 for no cell.
+    void HintCell(int intCell);
+
     /// The cell whose digit or notes label lies at that point, 0 where none does.
     int GetCellAt(QPointF point) const;
 
@@ -40,7 +43,8 @@ private:
     struct CellItems {
         ShapeItem* shpWCell = nullptr;
         RingItem* shpHighlight = nullptr;
-        ShapeItem* shpCell = nullptr;
+        CellOutlineItem* shpCell = nullptr;
+        MarkItem* shpMark = nullptr;
         LabelItem* lblSolution = nullptr;
         LabelItem* lblCandidate = nullptr;
         LabelItem* lblCell = nullptr;
@@ -54,6 +58,8 @@ private:
 
     std::array<ShapeItem*, 9> shp9_{};
     ShapeItem* shpBorder_ = nullptr;
+    HintItem* shpHint_ = nullptr;
+    int intHinted_ = 0;
     Numbered<CellItems, intCellCount> cells_;
     std::unique_ptr<GridView> grid_;
 };

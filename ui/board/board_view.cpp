@@ -25,6 +25,7 @@ BoardView::BoardView(BoardScene& scene, QWidget* parent)
     setViewportUpdateMode(MinimalViewportUpdate);
     setOptimizationFlags(DontSavePainterState | DontAdjustForAntialiasing);
     setInteractive(false);
+    viewport()->setMouseTracking(true);
     SetZoom(1.0);
 }
 
@@ -40,6 +41,7 @@ void BoardView::Mirror(const View& view) {
 void BoardView::SetZoom(double dblZoom) {
     const double dblScale = dblZoom / intTwipsPerPixel;
     setTransform(QTransform::fromScale(dblScale, dblScale));
+    scene_.HintCell(0); // until the pointer moves over the cells' new places
 }
 
 const GridView& BoardView::grid() const {
@@ -82,6 +84,15 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event) {
     if (buttons.testFlag(event->button()) && intCell != 0)
         emit cellReleased(intCell, static_cast<MouseButton>(event->button()),
                           event->globalPosition().toPoint());
+}
+
+void BoardView::mouseMoveEvent(QMouseEvent* event) {
+    scene_.HintCell(GetCellAt(event->position().toPoint()));
+}
+
+void BoardView::leaveEvent(QEvent* event) {
+    scene_.HintCell(0);
+    QGraphicsView::leaveEvent(event);
 }
 
 void BoardView::keyPressEvent(QKeyEvent* event) {
