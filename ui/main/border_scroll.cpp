@@ -58,7 +58,8 @@ void BorderScroll::SetRanges(const ScrollRange& across, const ScrollRange& down)
     const QRect rectSeen = GetSeen();
     const int intBar = ToPixels(dblScrollBarWidth);
     scrAcross_->setGeometry(0, rectSeen.height(), rectSeen.width(), intBar);
-    scrDown_->setGeometry(rectSeen.width(), 0, intBar, rectSeen.height());
+    // The corner between the bars, where panes would show, belongs to this one.
+    scrDown_->setGeometry(rectSeen.width(), 0, intBar, picBorder_.height());
 }
 
 QPoint BorderScroll::GetOffset() const {

@@ -9,6 +9,7 @@
 #include "rules/view.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/pictures.h"
+#include "ui/desktop/snap.h"
 
 namespace cellora {
 
@@ -32,8 +33,8 @@ QColor Thin(QColor color, qreal dblShare) {
 }
 
 /// Half a pixel inside, so that the line of a pixel lies on one.
-QRectF GetLineRect(const QWidget& widget, qreal dblInset = 0.5) {
-    return QRectF(widget.rect()).adjusted(dblInset, dblInset, -dblInset, -dblInset);
+QRectF GetLineRect(const QWidget& widget) {
+    return QRectF(widget.rect()).adjusted(0.5, 0.5, -0.5, -0.5);
 }
 
 } // namespace
@@ -69,11 +70,9 @@ void StartButton::paintEvent(QPaintEvent*) {
     const QRect rectText = rect().adjusted(intTextMargin, 0, -intTextMargin, 0);
     painter.drawText(rectText, Qt::AlignLeft | Qt::AlignVCenter, text());
     painter.drawText(rectText, Qt::AlignRight | Qt::AlignVCenter, accessibleDescription());
-    if (hasFocus()) {
-        constexpr qreal dblWidth = 2;
-        painter.setPen(QPen(color, dblWidth));
-        painter.drawRoundedRect(GetLineRect(*this, dblWidth / 2), dblCorner, dblCorner);
-    }
+    // The first showing gives the keyboard to the first button; that alone needs no mark.
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        DrawFocusRing(painter, rect(), color);
 }
 
 void StartButton::keyPressEvent(QKeyEvent* event) {
