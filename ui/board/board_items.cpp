@@ -89,7 +89,8 @@ void CellOutlineItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, 
     const double dblStep = lines.GetWidth(2) - lines.GetWidth(1);
     const double dblBefore = dblStep * std::max(0, intWidth_ - 2);
     const double dblAtBorder = std::min(dblBefore, dblStep);
-    const double dblBehind = dblStep * ((intWidth_ - 1) / 2);
+    const int intBehind = (intWidth_ - 1) / 2;
+    const double dblBehind = dblStep * intBehind;
     painter->setBrush(Qt::NoBrush);
     DrawOutlined(*painter,
                  lines.Place(rect_).adjusted(-(blnFirstColumn_ ? dblAtBorder : dblBefore),
