@@ -30,7 +30,6 @@ struct Row {
     const char* strSection;
     const char* strKey;
     Member member;
-    bool blnSparing = false; ///< the default is not written where the file holds nothing
 };
 
 /// Each group in the order of its writing.
@@ -49,7 +48,7 @@ constexpr Row aRows[] = {
     {SettingsGroup::View, "view", "numberselector", &Settings::blnNumberSelector},
     {SettingsGroup::View, "view", "statistics", &Settings::blnStatistics},
     {SettingsGroup::View, "view", "cellerrors", &Settings::blnCellErrors},
-    {SettingsGroup::View, "view", "zoom", &Settings::intZoom, true},
+    {SettingsGroup::View, "view", "zoom", &Settings::intZoom},
     {SettingsGroup::Startup, "general", "startup", &Settings::dblStartup},
     {SettingsGroup::Path, "general", "path", &Settings::strGameFolder},
 };
@@ -149,7 +148,8 @@ void SaveSettings(FilePort& files, const Settings& settings, SettingsGroup group
         if (row.group != group)
             continue;
         const std::string strValue = FormatRow(row, settings);
-        const bool blnSpared = row.blnSparing && strValue == FormatRow(row, {}) &&
+        const bool blnSpared = row.member == Member(&Settings::intZoom) &&
+                               strValue == FormatRow(row, {}) &&
                                ReadINI(files, row.strSection, row.strKey, strPath).empty();
         if (!blnSpared)
             values.push_back({row.strSection, row.strKey, strValue});

@@ -58,6 +58,7 @@ frmMain::frmMain(Game& game, QtDesktop& desktop, Recovery& recovery)
     MakePopups();
     ConnectDesktop();
     announcer_ = std::make_unique<BoardAnnouncer>(*picGrid_);
+    setFocus(); // else the first button of the card would take the keyboard by itself
     Update();
 }
 

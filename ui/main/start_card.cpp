@@ -70,8 +70,7 @@ void StartButton::paintEvent(QPaintEvent*) {
     const QRect rectText = rect().adjusted(intTextMargin, 0, -intTextMargin, 0);
     painter.drawText(rectText, Qt::AlignLeft | Qt::AlignVCenter, text());
     painter.drawText(rectText, Qt::AlignRight | Qt::AlignVCenter, accessibleDescription());
-    // The first showing gives the keyboard to the first button; that alone needs no mark.
-    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
+    if (hasFocus())
         DrawFocusRing(painter, rect(), color);
 }
 

@@ -32,7 +32,7 @@ void ZoomSlider::Mirror(std::int16_t intZoom, std::int16_t intLargest) {
     setToolTip(QStringLiteral("Zoom: %1 %").arg(intZoom));
 }
 
-void ZoomSlider::OnAction(int intAction) {
+void ZoomSlider::OnAction(int intAction) const {
     if (intAction == SliderSingleStepAdd || intAction == SliderPageStepAdd)
         commands_.fnZoomIn();
     else if (intAction == SliderSingleStepSub || intAction == SliderPageStepSub)

@@ -29,7 +29,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void OnAction(int intAction);
+    void OnAction(int intAction) const;
 
     Commands commands_;
     int intTurned_ = 0; ///< of the wheel's next notch
