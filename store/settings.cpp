@@ -25,7 +25,8 @@ namespace {
 using Member = std::variant<ColorSlot, std::int16_t Settings::*, bool Settings::*,
                             double Settings::*, std::string Settings::*>;
 
-struct Row {
+/// The rows are written to be read, not to be packed.
+struct Row { // NOLINT(clang-analyzer-optin.performance.Padding)
     SettingsGroup group;
     const char* strSection;
     const char* strKey;

@@ -136,7 +136,12 @@ void Settle() {
         for (auto* const animation : window->findChildren<QAbstractAnimation*>())
             animation->setCurrentTime(animation->duration());
     }
-    for (int i = IsOffscreen() ? 4 : 12; i > 0; --i) {
+    // A window manager takes its time to hand the keyboard on.
+    const auto IsWaiting = [] {
+        return !IsOffscreen() && !QApplication::topLevelWidgets().isEmpty() &&
+               QApplication::activeWindow() == nullptr;
+    };
+    for (int i = IsOffscreen() ? 4 : 12; i > 0 || (i > -200 && IsWaiting()); --i) {
         QCoreApplication::processEvents();
         if (!IsOffscreen())
             usleep(2000);

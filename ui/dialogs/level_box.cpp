@@ -6,6 +6,7 @@
 #include <QLabel>
 
 #include "core/levels.h"
+#include "core/modCommon_Constants.h"
 #include "ui/desktop/text.h"
 
 namespace cellora {

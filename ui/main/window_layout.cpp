@@ -88,10 +88,11 @@ LayoutInput WindowLayout::GetLayoutInput() const {
 }
 
 QSize WindowLayout::GetLargestSize() const {
-    if (window_.isMaximized() || window_.isFullScreen())
-        return window_.size();
     const QSize sizeFrame = window_.frameGeometry().size() - window_.size();
-    return window_.screen()->availableGeometry().size() - sizeFrame;
+    const QSize sizeFree = window_.screen()->availableGeometry().size() - sizeFrame;
+    // A window is told of its state before it is told of its size.
+    return window_.isMaximized() || window_.isFullScreen() ? window_.size().expandedTo(sizeFree)
+                                                           : sizeFree;
 }
 
 std::int16_t WindowLayout::GetLargestZoomHeld() const {
