@@ -182,6 +182,7 @@ private:
         Replace(strLine, folder.Path(), "$");
 #ifdef _WIN32
         Replace(strLine, "$\\", "$/");
+        Replace(strLine, "\\copy", "/copy");
         Replace(strLine, "Path not found", "No such file or directory");
 #endif
         Replace(strLine, "\r\n", " / ");

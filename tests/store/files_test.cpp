@@ -133,7 +133,7 @@ TEST_F(Files, LeftByKilledWritesGoWhenTheyAreOld) {
                                              std::chrono::hours(intHours));
     };
     const auto aKept = std::to_array<std::string>(
-        {"hof.clh.backup", "hof.clh.BackUp", "hof.clh.BACKUP", "cl.ini.oldABC", "game.clp.aBCdEf",
+        {"hof.clh.backup", "hof.clh.SaveIt", "hof.clh.BEFORE", "cl.ini.oldABC", "game.clp.aBCdEf",
          "hof.clh.damaged", ".cellora-0123456789aX.tmp", ".cellora-0123456789ab.tmp.bak"});
     for (const std::string& strName : aKept)
         Make(strName, 1000);
