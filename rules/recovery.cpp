@@ -28,12 +28,6 @@ bool NeedsCopy(const Game& game) {
     return game.IsInPlay() || game.score.blnWaits || IsOwed(game);
 }
 
-/// Something is there or may be there.
-bool MayExist(FilePort& files, const std::string& strPath) {
-    PathStatus status;
-    return files.GetStatus(strPath, status) || status.kind != PathKind::Missing;
-}
-
 Answer AskToRestore(Game& game) {
     return game.desktop.ShowMessageBox(
         {.strTitle = "Restore Game?",
@@ -90,10 +84,10 @@ bool Recovery::TakePlace() {
         files_.MakeFolder(strFolder_);
     for (int intCopy = 1; intCopy <= intMaxCopies && place_ == nullptr; ++intCopy) {
         const std::string strFile = GetFile(intCopy);
-        if (!MayExist(files_, strFile))
+        if (IsMissing(files_, strFile))
             place_ = Lock(strFile);
         // Another copy of the program may have come and gone in between.
-        if (place_ != nullptr && MayExist(files_, strFile))
+        if (place_ != nullptr && !IsMissing(files_, strFile))
             place_ = nullptr;
     }
     return place_ != nullptr;
@@ -174,7 +168,7 @@ void Recovery::OfferToRestore(Game& game) {
     TakeOverOldCopies();
     for (int intCopy = 1; intCopy <= intMaxCopies; ++intCopy) {
         const std::string strFile = GetFile(intCopy);
-        if (!MayExist(files_, strFile))
+        if (IsMissing(files_, strFile))
             continue;
         const auto place = Lock(strFile);
         if (place != nullptr && OfferCopy(game, place) != Offer::Done)
@@ -209,7 +203,7 @@ Recovery::Offer Recovery::OfferCopy(Game& game, const std::shared_ptr<Place>& pl
 
 void Recovery::PutAside(Game& game, const std::string& strFile) {
     std::string strAside = strFile + ".damaged";
-    for (int intCopy = 2; MayExist(files_, strAside); ++intCopy)
+    for (int intCopy = 2; !IsMissing(files_, strAside); ++intCopy)
         strAside = strFile + ".damaged-" + std::to_string(intCopy);
     if (!files_.Rename(strFile, strAside))
         TellOfCopy(game, "It is damaged.", "It was put aside as \"" + strAside + "\".");
@@ -223,7 +217,7 @@ void Recovery::TakeOverOldCopies() {
         const std::string strName =
             intCopy == 1 ? "recovery.clp" : "recovery-" + std::to_string(intCopy) + ".clp";
         const std::string strFile = JoinPath(strOldFolder_, strName);
-        if (!MayExist(files_, strFile + ".lock"))
+        if (IsMissing(files_, strFile + ".lock"))
             continue;
         const ReadResult file = ReadWholeFile(files_, strFile, lngMaxSavedGameBytes);
         const auto savedGame = file ? ParseSavedGame(file.bytes) : std::nullopt;

@@ -23,6 +23,11 @@ bool PathExists(FilePort& files, std::string strPath) {
     return GetKind(files, strPath) != PathKind::Missing;
 }
 
+bool IsMissing(FilePort& files, const std::string& strPath) {
+    PathStatus status;
+    return !files.GetStatus(strPath, status) && status.kind == PathKind::Missing;
+}
+
 std::string GetFolderFromPath(std::string strPath) {
 #ifdef _WIN32
     const std::size_t intLast = strPath.find_last_of("/\\");

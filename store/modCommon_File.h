@@ -14,6 +14,10 @@ bool FileExists(FilePort& files, std::string strPath);
 /// True for any existing path, folder or file; false as in `FileExists`.
 bool PathExists(FilePort& files, std::string strPath);
 
+/// True where it is certain that nothing is there: a path that cannot be examined may exist, and is
+/// neither missing here nor existing above.
+bool IsMissing(FilePort& files, const std::string& strPath);
+
 /// The path up to and including its last "/", or its last backslash when it holds no "/"; on
 /// Windows the last of either. Empty text when it holds neither.
 std::string GetFolderFromPath(std::string strPath);

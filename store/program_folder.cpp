@@ -57,12 +57,6 @@ bool HoldsFiles(FilePort& files, const std::string& strFolder) {
            FileExists(files, JoinPath(strFolder, std::string(strHallOfFameFileName)));
 }
 
-/// What cannot be told may be there.
-bool IsMissing(FilePort& files, const std::string& strPath) {
-    PathStatus status;
-    return !files.GetStatus(strPath, status) && status.kind == PathKind::Missing;
-}
-
 bool IsOldTemporary(std::string_view strName) {
     if (IsTemporaryName(strName))
         return true;
