@@ -132,6 +132,9 @@ constexpr const char* aPictures[] = {"tbr_save",    "tbr_print", "tbr_open", "tb
 
 constexpr int intPictureSize = 24;
 
+/// Leaves as much room before the finish button, whose place is fixed, as between the others.
+constexpr int intToolButtonWidth = 30;
+
 /// The first command that passes the test, null when none does.
 template <typename Test>
 constexpr const Command* FindCommand(Test fnTest) {
@@ -204,6 +207,7 @@ void CommandBars::AddButton(const Command& command) {
         tbrMain_->addAction(MakeIcon(QLatin1String(aPictures[command.intPicture - 1])), strToolTip);
     action->setToolTip(strToolTip);
     action->setIconText(strToolTip); // the button's accessible name
+    tbrMain_->widgetForAction(action)->setFixedWidth(intToolButtonWidth);
     QObject::connect(action, &QAction::triggered, &window_,
                      [this, &command] { tbrMain_ButtonClick(command.intPicture); });
     buttons_.push_back({action, &command});
