@@ -89,7 +89,12 @@ entries, helps where the player is stuck, saves and prints games, and keeps
 the best times of each level in a hall of fame.")
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://www.cellora.example/")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
+# Symbols are taken out; a build that has those for debugging gives them a package of their own.
+if(CMAKE_BUILD_TYPE STREQUAL "RelWithDebInfo")
+    set(CPACK_DEBIAN_DEBUGINFO_PACKAGE ON)
+else()
+    set(CPACK_STRIP_FILES ON)
+endif()
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Builds the Debian package, has Debian's own tools judge it, and starts the program from it as an
-# ordinary user, who must find nothing written outside the user's own data folder.
+# Builds the Debian package and that of its symbols, has Debian's own tools judge it, and starts the
+# program from it as an ordinary user, who must find nothing written outside the user's own data
+# folder.
 # Usage: scripts/check_package.sh [BUILD_FOLDER]
 set -euo pipefail
-folder=$(readlink -m "${1:-$(dirname "${BASH_SOURCE[0]}")/../build/release}")
+folder=$(readlink -m "${1:-$(dirname "${BASH_SOURCE[0]}")/../build/package}")
 cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.."
 source scripts/packages.sh
 
@@ -18,7 +19,7 @@ fail() {
 install_missing "${build_packages[@]}" desktop-file-utils appstream lintian dpkg-dev \
     shared-mime-info file util-linux
 if (($# == 0)); then
-    build release
+    build package
 else
     cmake --build "$folder" --target cellora
 fi
@@ -48,6 +49,16 @@ XDG_DATA_HOME=$work XDG_DATA_DIRS=/usr/share update-mime-database "$work/mime"
 grep -qx 'application/x-cellora-game:\*\.clp' "$work/mime/globs" ||
     fail "saved games have no type of their own"
 cmp assets/cl.ini "$share/cellora/cl.ini"
+
+echo "Finding a routine by the symbols aside"
+program=$work/root/usr/games/cellora
+[[ -z $(nm "$program" 2>/dev/null) ]] || fail "the program carries symbols"
+dpkg-deb -x "$work"/packed/*.ddeb "$work/aside"
+id=$(readelf -n "$program" | sed -n 's/.*Build ID: //p')
+symbols=$work/aside/usr/lib/debug/.build-id/${id:0:2}/${id:2}.debug # where a debugger looks
+address=$(nm -C "$symbols" | sed -n 's/ T cellora::MakeView(.*//p')
+[[ $(addr2line -e "$symbols" "0x$address") == *rules/view.cpp:* ]] ||
+    fail "the symbols do not belong to the program"
 
 echo "Playing as $player"
 home=$work/home
