@@ -7,7 +7,12 @@ namespace cellora {
 
 namespace {
 
+constexpr double dblReads = 4.5;
+constexpr double dblSeen = 3;
 constexpr double dblHardlySeen = 1.2;
+
+constexpr int intWhole = 64;
+constexpr int intThird = 21;
 
 constexpr int GetPart(Color lngColor, int intBits) {
     return (lngColor >> intBits) & 0xFF;
@@ -22,14 +27,24 @@ double GetLuminance(Color lngColor) {
     return 0.2126 * GetLight(0) + 0.7152 * GetLight(8) + 0.0722 * GetLight(16);
 }
 
-/// So many of 64 parts of one colour, the rest of the other.
+/// So many of `intWhole` parts of one colour, the rest of the other.
 Color Mix(Color lngColor, Color lngOther, int intShare) {
     const auto MixPart = [=](int intBits) {
         return (GetPart(lngColor, intBits) * intShare +
-                GetPart(lngOther, intBits) * (64 - intShare)) /
-               64;
+                GetPart(lngOther, intBits) * (intWhole - intShare)) /
+               intWhole;
     };
     return MakeColor(MixPart(0), MixPart(8), MixPart(16));
+}
+
+/// As much of one colour in the other as passes the test, and no more than that share.
+template <typename Test>
+Color MixMost(Color lngColor, Color lngOther, int intMost, Test fnTest) {
+    for (int intShare = intMost; intShare > 0; --intShare) {
+        if (const Color lngMixed = Mix(lngColor, lngOther, intShare); fnTest(lngMixed))
+            return lngMixed;
+    }
+    return lngOther;
 }
 
 } // namespace
@@ -45,13 +60,22 @@ Color ChooseInk(Color lngBehind) {
                : lngColorWhite;
 }
 
+Color MakeSeen(Color lngColor, Color lngBehind) {
+    return MixMost(lngColor, ChooseInk(lngBehind), intWhole, [lngBehind](Color lngMixed) {
+        return GetContrast(lngMixed, lngBehind) >= dblSeen;
+    });
+}
+
+Color Tint(Color lngColor, Color lngBehind, Color lngText) {
+    const double dblLeast = std::min(GetContrast(lngText, lngBehind), dblReads);
+    return MixMost(lngColor, lngBehind, intThird,
+                   [=](Color lngMixed) { return GetContrast(lngText, lngMixed) >= dblLeast; });
+}
+
 Color Conceal(Color lngBehind) {
-    for (int intShare = 64; intShare > 0; --intShare) {
-        const Color lngColor = Mix(lngColorInactiveCaptionText, lngBehind, intShare);
-        if (GetContrast(lngColor, lngBehind) <= dblHardlySeen)
-            return lngColor;
-    }
-    return lngBehind;
+    return MixMost(lngColorInactiveCaptionText, lngBehind, intWhole, [lngBehind](Color lngMixed) {
+        return GetContrast(lngMixed, lngBehind) <= dblHardlySeen;
+    });
 }
 
 } // namespace cellora

@@ -48,6 +48,16 @@ void SetCellColors(CellView& cell, Color lngUser, Color lngComputer, Color lngLi
     cell.lngOutlineColor = lngLine;
 }
 
+RingView MakeRing(const Colors& colors, const Cell& cell, int intCell) {
+    constexpr Color lngAmber = MakeColor(255, 165, 0);
+    const Color lngBehind = cell.wrongMark.blnOpaque             ? cell.wrongMark.lngColor
+                            : IsFilledRegion(GetRegion(intCell)) ? colors[lngColorGridX]
+                                                                 : colors[lngColorGridBackground];
+    const Color lngDigit = colors[cell.blnGiven ? lngColorFontComputer : lngColorFontUser];
+    return {.lngLineColor = MakeSeen(lngAmber, lngBehind),
+            .lngFillColor = Tint(lngAmber, lngBehind, lngDigit)};
+}
+
 void ShowCell(CellView& view, const Game& game, int intCell) {
     const Cell& cell = game.cells[intCell];
     view.lblSolution.strCaption = cell.strSolution;
@@ -63,8 +73,8 @@ void ShowCell(CellView& view, const Game& game, int intCell) {
         view.shpWCell = cell.wrongMark.lngColor;
         view.lngMarkColor = ChooseInk(cell.wrongMark.lngColor);
     }
-    view.blnHighlighted =
-        game.intHighlight != 0 && cell.GetShownText() == std::to_string(game.intHighlight);
+    if (game.intHighlight != 0 && cell.GetShownText() == std::to_string(game.intHighlight))
+        view.shpHighlight = MakeRing(game.settings.colors, cell, intCell);
     if (cell.outline.blnCursorColor)
         view.lngOutlineColor = game.settings.colors[lngColorGridCursor];
 }

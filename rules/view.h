@@ -21,6 +21,14 @@ struct LabelView {
     bool operator==(const LabelView&) const = default;
 };
 
+/// `shpHighlight`, the ring round the digit of a highlighted cell.
+struct RingView {
+    Color lngLineColor = lngColorBlack; ///< seen on the cell
+    Color lngFillColor = lngColorWhite; ///< the digit reads on it
+
+    bool operator==(const RingView&) const = default;
+};
+
 /// The elements of one cell.
 struct CellView {
     LabelView lblSolution; ///< visible in a given cell
@@ -30,7 +38,7 @@ struct CellView {
     Color lngMarkColor = lngColorBlack; ///< of the mark in the corner of such a cell
     int intOutlineWidth = 1;            ///< of `shpCell`, in pixels of 15 twips
     Color lngOutlineColor = lngColorBlack;
-    bool blnHighlighted = false;
+    std::optional<RingView> shpHighlight;
     bool blnTakesClick = false; ///< a left click would write here
 
     bool operator==(const CellView&) const = default;

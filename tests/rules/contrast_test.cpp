@@ -16,13 +16,19 @@ TEST(Contrast, IsThatOfTheEye) {
 }
 
 TEST(Contrast, OnAnyColorThereIsAnInkThatReadsAndOneThatDoesNot) {
+    constexpr Color lngColorAmber = MakeColor(255, 165, 0);
     for (int n = 0; n < 9 * 9 * 9; ++n) {
         const Color lngBehind = MakeColor(n % 9 * 255 / 8, n / 9 % 9 * 255 / 8, n / 81 * 255 / 8);
-        EXPECT_GE(GetContrast(ChooseInk(lngBehind), lngBehind), 4.5) << lngBehind;
+        const Color lngInk = ChooseInk(lngBehind);
+        EXPECT_GE(GetContrast(lngInk, lngBehind), 4.5) << lngBehind;
+        EXPECT_GE(GetContrast(lngInk, Tint(lngColorAmber, lngBehind, lngInk)), 4.5) << lngBehind;
+        EXPECT_GE(GetContrast(MakeSeen(lngColorAmber, lngBehind), lngBehind), 3) << lngBehind;
         EXPECT_LE(GetContrast(Conceal(lngBehind), lngBehind), 1.2) << lngBehind;
     }
     for (const Color lngLight : {lngColorWhite, lngColorLightYellow})
         EXPECT_EQ(Conceal(lngLight), lngColorInactiveCaptionText);
+    EXPECT_EQ(MakeSeen(lngColorAmber, lngColorBlack), lngColorAmber);
+    EXPECT_NE(Tint(lngColorAmber, lngColorWhite, lngColorBlue), lngColorWhite);
 }
 
 TEST(Contrast, OfTheColorsAsShippedIsEnoughEverywhere) {

@@ -29,7 +29,7 @@ inline std::string Describe(const CellView& cell) {
                 blnVisible ? strEntry : '(' + strEntry + ')',
                 strNotes.empty() ? "" : '{' + strNotes + '}',
                 cell.shpWCell ? Text('x', *cell.shpWCell, '/', cell.lngMarkColor) : "",
-                cell.blnHighlighted ? "*" : "");
+                cell.shpHighlight ? "*" : "");
 }
 
 inline std::string Describe(const Numbered<PopupItem, 9>& items) {

@@ -135,12 +135,20 @@ RingItem::RingItem(QRectF rect, QGraphicsScene& scene) : rect_(rect) {
     scene.addItem(this);
 }
 
+void RingItem::SetColors(const QColor& colorLine, const QColor& colorFill) {
+    if (colorLine == colorLine_ && colorFill == colorFill_)
+        return;
+    colorLine_ = colorLine;
+    colorFill_ = colorFill;
+    update();
+}
+
 void RingItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
     constexpr qreal dblWidth = 2 * intTwipsPerPixel;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(QColor(0xC9, 0x7A, 0x10), dblWidth));
-    painter->setBrush(QColor(0xFF, 0xE3, 0xB0));
+    painter->setPen(QPen(colorLine_, dblWidth));
+    painter->setBrush(colorFill_);
     painter->drawEllipse(rect_.adjusted(dblWidth, dblWidth, -dblWidth, -dblWidth));
     painter->restore();
 }

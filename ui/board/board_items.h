@@ -82,11 +82,15 @@ class RingItem final : public QGraphicsItem {
 public:
     RingItem(QRectF rect, QGraphicsScene& scene);
 
+    void SetColors(const QColor& colorLine, const QColor& colorFill);
+
     QRectF boundingRect() const override { return rect_; }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override;
 
 private:
     QRectF rect_;
+    QColor colorLine_;
+    QColor colorFill_;
 };
 
 /// The small cross in the lower right corner of a wrong cell, clear of its digit and notes.

@@ -152,7 +152,10 @@ void BoardScene::MirrorCell(int i, const CellView& cell) {
     items.shpWCell->SetFill(cell.shpWCell ? ToQColor(*cell.shpWCell) : QColor());
     items.shpMark->setVisible(cell.shpWCell.has_value());
     items.shpMark->SetColor(ToQColor(cell.lngMarkColor));
-    items.shpHighlight->setVisible(cell.blnHighlighted);
+    items.shpHighlight->setVisible(cell.shpHighlight.has_value());
+    if (cell.shpHighlight)
+        items.shpHighlight->SetColors(ToQColor(cell.shpHighlight->lngLineColor),
+                                      ToQColor(cell.shpHighlight->lngFillColor));
     items.shpCell->SetOutline(cell.intOutlineWidth, ToQColor(cell.lngOutlineColor));
     MirrorLabel(*items.lblSolution, cell.lblSolution);
     MirrorLabel(*items.lblCandidate, cell.lblCandidate);
