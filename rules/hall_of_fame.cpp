@@ -14,7 +14,6 @@ namespace cellora {
 namespace {
 
 constexpr int msLockTimeout = 2000;
-constexpr int intMaxCopies = 99;
 constexpr const char* strBoxTitle = "Hall of Fame";
 
 std::string GetFilePath(const Game& game) {
@@ -45,20 +44,13 @@ struct Rewriting {
     std::string strKept = {};             ///< the copy of a damaged file
 };
 
-/// Copies a file that is not in form beside it, under the first free name unless it is kept there
-/// already.
+/// Copies a file that is not in form beside it, unless it is kept there already.
 Rewriting KeepDamagedFile(FilePort& files, const std::string& strFile, std::string_view bytes) {
-    for (int intCopy = 1; intCopy <= intMaxCopies; ++intCopy) {
-        std::string strCopy = strFile + ".damaged";
-        if (intCopy > 1)
-            strCopy.append("-").append(std::to_string(intCopy));
-        const ReadResult kept = ReadWholeFile(files, strCopy, lngMaxHallOfFameBytes);
-        if (kept && kept.bytes == bytes)
-            return {std::nullopt, strCopy};
-        if (kept.outcome == ReadOutcome::Missing)
-            return {ReplaceFile(files, strCopy, bytes), strCopy};
-    }
-    return {"No more damaged files \"hof.clh\" can be kept."};
+    const auto place = FindPlaceAside(files, strFile, bytes);
+    if (!place)
+        return {"No more damaged files \"hof.clh\" can be kept."};
+    return {place->blnKept ? std::nullopt : ReplaceFile(files, place->strPath, bytes),
+            place->strPath};
 }
 
 /// Reads the file for rewriting. A missing one counts as empty; a damaged one is kept first.

@@ -185,7 +185,7 @@ Recovery::Offer Recovery::OfferCopy(Game& game, const std::shared_ptr<Place>& pl
     const auto copy = ParseRecoveryCopy(file.bytes);
     if (!copy) {
         if (!ParseSavedGame(file.bytes)) // else a player put it there
-            PutAside(game, place->strFile);
+            PutAside(game, place->strFile, file.bytes);
         return Offer::Done;
     }
     const Answer answer = copy->score.blnWaits ? Answer::Yes : AskToRestore(game);
@@ -201,12 +201,12 @@ Recovery::Offer Recovery::OfferCopy(Game& game, const std::shared_ptr<Place>& pl
     return Offer::Opened;
 }
 
-void Recovery::PutAside(Game& game, const std::string& strFile) {
-    std::string strAside = strFile + ".damaged";
-    for (int intCopy = 2; !IsMissing(files_, strAside); ++intCopy)
-        strAside = strFile + ".damaged-" + std::to_string(intCopy);
-    if (!files_.Rename(strFile, strAside))
-        TellOfCopy(game, "It is damaged.", "It was put aside as \"" + strAside + "\".");
+void Recovery::PutAside(Game& game, const std::string& strFile, std::string_view bytes) {
+    const auto aside = FindPlaceAside(files_, strFile, bytes);
+    const bool blnDone = aside && !files_.Rename(strFile, aside->strPath);
+    TellOfCopy(game, "It is damaged.",
+               blnDone ? "It was put aside as \"" + aside->strPath + "\"."
+                       : "It could not be put aside; the next start tries again.");
 }
 
 /// Earlier versions kept "recovery.clp" to "recovery-9.clp" in the program's folder itself. Only

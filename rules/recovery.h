@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "store/background_writer.h"
 #include "store/recovery_form.h"
@@ -72,7 +73,7 @@ private:
 
     Offer OfferCopy(Game& game, const std::shared_ptr<Place>& place);
     void TakeOverOldCopies();
-    void PutAside(Game& game, const std::string& strFile);
+    void PutAside(Game& game, const std::string& strFile, std::string_view bytes);
 
     FilePort& files_;
     std::string strFolder_;

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <random>
 #include <thread>
+#include <utility>
 
 #include "store/modCommon_File.h"
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr std::size_t lngMaxChunk = std::size_t{64} << 10U;
 constexpr int intMaxNames = 20;
+constexpr int intMaxDamaged = 99;
 constexpr std::string_view strTemporaryStart = ".cellora-";
 constexpr std::string_view strTemporaryEnd = ".tmp";
 constexpr std::string_view strDigits = "0123456789abcdef";
@@ -132,6 +134,19 @@ std::optional<std::string> ReplaceFile(FilePort& files, const std::string& strPa
     if (!error)
         error = ReplaceRegularFile(files, strTarget, bytes);
     return error ? std::optional(FormatReason(strPath, "written", error.message())) : std::nullopt;
+}
+
+std::optional<PlaceAside> FindPlaceAside(FilePort& files, const std::string& strFile,
+                                         std::string_view bytes) {
+    for (int intCopy = 1; intCopy <= intMaxDamaged; ++intCopy) {
+        std::string strPath = strFile + ".damaged";
+        if (intCopy > 1)
+            strPath.append("-").append(std::to_string(intCopy));
+        const ReadResult kept = ReadWholeFile(files, strPath, bytes.size());
+        if (kept.outcome == ReadOutcome::Missing || (kept && kept.bytes == bytes))
+            return PlaceAside{std::move(strPath), static_cast<bool>(kept)};
+    }
+    return std::nullopt;
 }
 
 std::string MakeTemporaryName() {

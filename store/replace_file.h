@@ -38,6 +38,16 @@ ReadResult ReadWholeFile(FilePort& files, const std::string& strPath, std::size_
 std::optional<std::string> ReplaceFile(FilePort& files, const std::string& strPath,
                                        std::string_view bytes);
 
+struct PlaceAside {
+    std::string strPath;
+    bool blnKept = false; ///< it holds the bytes already
+};
+
+/// Where the bytes of a damaged file are kept beside it: "FILE.damaged", or "FILE.damaged-2" to
+/// "-99" behind those that hold something else or cannot be read. Nothing when there is none.
+std::optional<PlaceAside> FindPlaceAside(FilePort& files, const std::string& strFile,
+                                         std::string_view bytes);
+
 /// A new name, hidden on POSIX, for a file that is about to take another one's place.
 std::string MakeTemporaryName();
 
