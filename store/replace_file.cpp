@@ -12,6 +12,7 @@ namespace cellora {
 
 namespace {
 
+constexpr std::size_t lngMinChunk = std::size_t{4} << 10U;
 constexpr std::size_t lngMaxChunk = std::size_t{64} << 10U;
 constexpr int intMaxNames = 20;
 constexpr int intMaxDamaged = 99;
@@ -34,7 +35,7 @@ std::error_code ReadToEnd(FilePort& files, FileHandle file, std::uint64_t lngSiz
     while (lngSize <= lngMaxBytes && lngDone <= lngMaxBytes) {
         std::size_t lngRead = 0;
         const std::size_t lngLeft = lngSize > lngDone ? lngSize - lngDone : 0;
-        bytes.resize(lngDone + std::clamp<std::size_t>(lngLeft, 1, lngMaxChunk));
+        bytes.resize(lngDone + std::clamp(lngLeft, lngMinChunk, lngMaxChunk));
         if (const auto error = files.Read(file, std::span(bytes).subspan(lngDone), lngRead))
             return error;
         lngDone += lngRead;
