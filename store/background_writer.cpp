@@ -2,6 +2,7 @@
 
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -28,11 +29,22 @@ BackgroundWriter::~BackgroundWriter() {
     queue_->changed.notify_all();
 }
 
-void BackgroundWriter::Do(Write fnWrite) {
-    if (queue_ == nullptr) {
-        queue_ = std::make_shared<Queue>();
-        std::thread([queue = queue_] { Run(*queue); }).detach();
+bool BackgroundWriter::Start() {
+    if (queue_ != nullptr)
+        return true;
+    const auto queue = std::make_shared<Queue>();
+    try {
+        std::thread([queue] { Run(*queue); }).detach();
+    } catch (const std::system_error&) {
+        return false;
     }
+    queue_ = queue;
+    return true;
+}
+
+void BackgroundWriter::Do(Write fnWrite) {
+    if (!Start())
+        return fnWrite();
     const std::lock_guard lock(queue_->mutex);
     queue_->fnNext = std::move(fnWrite);
     queue_->changed.notify_all();

@@ -19,6 +19,7 @@ public:
     BackgroundWriter(const BackgroundWriter&) = delete;
     BackgroundWriter& operator=(const BackgroundWriter&) = delete;
 
+    /// Where the system has no thread left to give, the caller writes after all.
     void Do(Write fnWrite);
 
     /// Waits until everything is written. False when that took longer.
@@ -27,6 +28,7 @@ public:
 private:
     struct Queue;
     static void Run(Queue& queue);
+    bool Start();
 
     std::shared_ptr<Queue> queue_; ///< null before the first write: most runs need no thread
 };

@@ -1,14 +1,37 @@
 #include "store/background_writer.h"
 
+#include <fstream>
 #include <latch>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/faults.h"
+
 namespace cellora {
 namespace {
 
 using std::chrono::minutes;
+
+#ifdef __linux__
+
+TEST(BackgroundWriter, WritesAtOnceWhereThereIsNoThread) {
+    ChildProcess child([](const auto&) {
+        rlim_t lngPages = 0;
+        std::ifstream("/proc/self/statm") >> lngPages;
+        const rlim_t lngTooLittleForAStack =
+            lngPages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + (rlim_t{1} << 20U);
+        const rlimit limit{lngTooLittleForAStack, lngTooLittleForAStack};
+        setrlimit(RLIMIT_AS, &limit);
+        bool blnWritten = false;
+        BackgroundWriter writer;
+        writer.Do([&] { blnWritten = true; });
+        return writer.Wait(minutes(1)) && blnWritten;
+    });
+    EXPECT_EQ(child.End(0), 0);
+}
+
+#endif
 
 TEST(BackgroundWriter, GoesOnWithTheNewestBehindAWriteThatHangs) {
     std::latch begun(1);
