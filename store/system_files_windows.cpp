@@ -257,9 +257,11 @@ std::error_code SystemFiles::Rename(const std::string& strPath, const std::strin
 
 std::error_code SystemFiles::Remove(const std::string& strPath) {
     const std::wstring strWide = ToPath(strPath);
-    const DWORD lngCode = Insist([&] {
-        return DeleteFileW(strWide.c_str()) != 0 || RemoveDirectoryW(strWide.c_str()) != 0;
-    });
+    const DWORD lngAttributes = GetFileAttributesW(strWide.c_str());
+    const bool blnFolder = lngAttributes != INVALID_FILE_ATTRIBUTES &&
+                           (lngAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0U;
+    const auto fnRemove = blnFolder ? RemoveDirectoryW : DeleteFileW;
+    const DWORD lngCode = Insist([&] { return fnRemove(strWide.c_str()) != 0; });
     return ToError(lngCode == ERROR_SUCCESS, lngCode);
 }
 
