@@ -67,7 +67,14 @@ Recovery::~Recovery() {
 }
 
 bool Recovery::Wait() {
-    return writer_.Wait(msLongestWait);
+    blnHangs_ = !writer_.Wait(blnHangs_ ? std::chrono::milliseconds() : msLongestWait);
+    return !blnHangs_;
+}
+
+void Recovery::Do(BackgroundWriter::Write fnWrite) {
+    // Before it waits for this one as well.
+    blnHangs_ = blnHangs_ && !writer_.Wait({});
+    writer_.Do(std::move(fnWrite));
 }
 
 std::string Recovery::GetFile(int intCopy) const {
@@ -139,15 +146,15 @@ void Recovery::Write(const Game& game) {
         return;
     blnWritten_ = true;
     // What cannot be written now is tried again with the next change.
-    writer_.Do([&files = files_, place = place_,
-                bytes = FormatRecoveryCopy({TakeGame(game), game.strGameFile, game.score})] {
+    Do([&files = files_, place = place_,
+        bytes = FormatRecoveryCopy({TakeGame(game), game.strGameFile, game.score})] {
         ReplaceFile(files, place->strFile, bytes);
     });
 }
 
 void Recovery::Remove() {
     if (std::exchange(blnWritten_, false))
-        writer_.Do([&files = files_, place = place_] { files.Remove(place->strFile); });
+        Do([&files = files_, place = place_] { files.Remove(place->strFile); });
 }
 
 void Recovery::End(const Game& game) {

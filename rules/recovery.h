@@ -47,7 +47,8 @@ public:
     /// or a score waits. Nothing is written afterwards.
     void End(const Game& game);
 
-    /// Waits until everything is written, for at most two seconds. False when that took longer.
+    /// Waits until everything is written, for at most two seconds. False when that took longer:
+    /// then the disk is given no more time before it has caught up.
     bool Wait();
 
     /// The file of this copy of the program; empty as long as it has none.
@@ -70,6 +71,7 @@ private:
     void LeavePlace();
     void Write(const Game& game);
     void Remove();
+    void Do(BackgroundWriter::Write fnWrite);
 
     Offer OfferCopy(Game& game, const std::shared_ptr<Place>& place);
     void TakeOverOldCopies();
@@ -87,6 +89,7 @@ private:
     int intTicks_ = 0;
     bool blnWritten_ = false;
     bool blnEnded_ = false;
+    bool blnHangs_ = false; ///< somebody has waited in vain
     BackgroundWriter writer_;
 };
 

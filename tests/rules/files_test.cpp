@@ -160,6 +160,23 @@ TEST(Recovery, LetsThePlayerGoOnWhileTheDiskHangs) {
     EXPECT_EQ(player.folder.Count(), 0);
 }
 
+TEST(Recovery, WaitsOnceForADiskThatHangs) {
+    Player player;
+    player.Play("puzzle");
+    StuckFiles files;
+    Recovery recovery(files, player.folder.Path());
+    recovery.tmrRecovery_Timer(player.game);
+    player.game.blnGameChanged = player.game.blnSaveOwed = true;
+    const auto start = std::chrono::steady_clock::now();
+    recovery.Observe(player.game);
+    recovery.End(player.game);
+    EXPECT_FALSE(recovery.Wait());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(3500));
+    files.disk.count_down();
+    while (!recovery.Wait())
+        std::this_thread::yield();
+}
+
 } // namespace
 } // namespace cellora
 
