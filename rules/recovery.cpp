@@ -158,6 +158,7 @@ void Recovery::Remove() {
 }
 
 void Recovery::End(const Game& game) {
+    blnWritten_ = place_ != nullptr; // what could not be removed before is tried once more
     if (game.score.blnWaits || IsOwed(game))
         Write(game);
     else

@@ -7,8 +7,10 @@
 #include <latch>
 #include <memory>
 #include <random>
+#include <set>
 #include <thread>
 
+#include "store/modCommon_File.h"
 #include "tests/support/faults.h"
 
 namespace cellora {
@@ -175,6 +177,32 @@ TEST(Recovery, WaitsOnceForADiskThatHangs) {
     files.disk.count_down();
     while (!recovery.Wait())
         std::this_thread::yield();
+}
+
+/// A disk that refuses to remove a file, but not twice.
+class StubbornFiles final : public SystemFiles {
+public:
+    std::error_code Remove(const std::string& strPath) override {
+        return removed_.insert(strPath).second ? std::make_error_code(std::errc::io_error)
+                                               : SystemFiles::Remove(strPath);
+    }
+
+private:
+    std::set<std::string> removed_;
+};
+
+TEST(Recovery, TriesAtTheEndToRemoveWhatStayed) {
+    Player player;
+    player.Play("puzzle");
+    StubbornFiles files;
+    Recovery recovery(files, player.folder.Path());
+    recovery.tmrRecovery_Timer(player.game);
+    EXPECT_TRUE(recovery.Wait());
+    player.game.phase = Phase::Finished;
+    recovery.Observe(player.game);
+    EXPECT_TRUE(recovery.Wait());
+    recovery.End(player.game);
+    EXPECT_FALSE(FileExists(player.files, player.folder.Path(".recovery/copy-1")));
 }
 
 } // namespace
