@@ -158,12 +158,14 @@ private slots:
             run_.Press(QKeySequence(strKey)[0]);
     }
 
-    /// send CONTROL KEY [CODE]: a key, by its place on the keyboard too.
+    /// send CONTROL KEY [CODE] [held]: a key at its time, by its place on the keyboard too.
     void send(const QStringList& words) {
+        QWidget& control = run_.Get(words.value(0));
         const QKeyCombination keys = QKeySequence(words.value(1))[0];
-        QKeyEvent event(QEvent::KeyPress, keys.key(), keys.keyboardModifiers(),
-                        words.value(2).toUInt(), 0, 0);
-        QApplication::sendEvent(&run_.Get(words.value(0)), &event);
+        // A server of screens makes this of a key that is held down.
+        if (words.contains(QLatin1String("held")))
+            Send(control, QEvent::KeyRelease, keys);
+        Send(control, QEvent::KeyPress, keys, words.value(2).toUInt());
     }
 
     void type(const QStringList& words) { QTest::keyClicks(run_.GetFocus(), words.join(u' ')); }
@@ -187,8 +189,10 @@ private slots:
             if (i != intLast && !run_.game().cells[i].blnGiven)
                 run_.Enter(i, run_.GetSolution(i));
         }
+        run_.MoveTo(intLast);
         const int intDigit = run_.GetSolution(intLast);
-        run_.Enter(intLast, words.contains(QLatin1String("wrong")) ? intDigit % 9 + 1 : intDigit);
+        const int intEntry = words.contains(QLatin1String("wrong")) ? intDigit % 9 + 1 : intDigit;
+        Send(run_.grid(), QEvent::KeyPress, static_cast<Qt::Key>(Qt::Key_0 + intEntry));
     }
 
     /// wheel CONTROL EIGHTHS [Ctrl]: of a degree, 120 a notch away from the player.
@@ -302,6 +306,14 @@ private slots:
     void close(const QStringList&) { run_.GetActive().close(); }
 
 private:
+    static void Send(QWidget& control, QEvent::Type type, QKeyCombination keys,
+                     quint32 lngCode = 0) {
+        QKeyEvent event(type, keys.key(), keys.keyboardModifiers(), lngCode, 0, 0,
+                        QKeySequence(keys).toString());
+        event.setTimestamp(QDeadlineTimer::current().deadline());
+        QApplication::sendEvent(&control, &event);
+    }
+
     void Run(const QWidget* modal);
     void Report();
     void CheckScreen();

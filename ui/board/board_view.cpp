@@ -99,7 +99,7 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
     if (IsPopupKey(*event))
         RequestPopup();
     else
-        emit keyPressed(GetVirtualKey(*event));
+        emit keyPressed(*event);
 }
 
 void BoardView::focusInEvent(QFocusEvent* event) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 #include <QGraphicsView>
 
 #include "rules/entry.h"
@@ -44,8 +42,8 @@ public:
 signals:
     /// A release of a mouse button over a cell 1 to 81; the position is on the screen.
     void cellReleased(int intCell, MouseButton button, QPoint globalPosition);
-    /// A virtual-key code, 0 for a key without one.
-    void keyPressed(std::int16_t intKeyCode);
+    /// Any key but those that ask for the popup.
+    void keyPressed(const QKeyEvent& event);
     /// By keyboard, with the middle of the cursor cell on the screen.
     void popupRequested(QPoint globalPosition);
 

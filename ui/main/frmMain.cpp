@@ -31,6 +31,7 @@
 #include "ui/main/commands.h"
 #include "ui/main/context_menu.h"
 #include "ui/main/input_lock.h"
+#include "ui/main/key_echo.h"
 #include "ui/main/layout_pass.h"
 #include "ui/main/number_selector.h"
 #include "ui/main/print.h"
@@ -153,9 +154,7 @@ void frmMain::MakeGrid() {
                 Do([&](Game& game) { CellClick(game, intCell, button); });
                 FocusGrid();
             });
-    connect(picGrid_, &BoardView::keyPressed, this, [this](std::int16_t intKeyCode) {
-        Do([&](Game& game) { DoKeyDown(game, intKeyCode); });
-    });
+    connect(picGrid_, &BoardView::keyPressed, this, &frmMain::picGrid_KeyDown);
     connect(picGrid_, &BoardView::popupRequested, this, [this](QPoint position) {
         popupPosition_ = position;
         Do([](Game& game) { CellClick(game, game.intCursorCell, MouseButton::Right); });
@@ -365,9 +364,13 @@ bool frmMain::picBorder_KeyDown(const QKeyEvent& event) {
         picGrid_->RequestPopup();
         return true;
     }
-    const std::int16_t intKeyCode = GetVirtualKey(event);
-    Do([&](Game& game) { DoKeyDown(game, intKeyCode); });
+    picGrid_KeyDown(event);
     return true;
+}
+
+void frmMain::picGrid_KeyDown(const QKeyEvent& event) {
+    const KeyEcho echo(event); // the last digit of a game opens a window
+    Do([&](Game& game) { DoKeyDown(game, GetVirtualKey(event)); });
 }
 
 } // namespace cellora

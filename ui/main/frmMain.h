@@ -91,6 +91,7 @@ private:
 
     /// Whether the key was used up; keys that move the keyboard's focus are not.
     bool picBorder_KeyDown(const QKeyEvent& event);
+    void picGrid_KeyDown(const QKeyEvent& event);
     bool picBorder_Wheel(QWheelEvent& event);
     void RevealCursor();
     void Form_Activate();

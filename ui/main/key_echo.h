@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+
+class QKeyEvent;
+
+namespace cellora {
+
+/// While a key's command runs, keeps that key out of the windows that the command opens: what comes
+/// of its being held down, and presses of it as quick as a double click. Such a press was meant for
+/// the board. Every other key passes, and from its next press on so does this one.
+class KeyEcho final : public QObject {
+public:
+    /// Of the press whose command is about to run.
+    explicit KeyEcho(const QKeyEvent& press);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool IsEcho(const QKeyEvent& press) const;
+
+    int intKey_;
+    quint32 lngScanCode_;
+    quint64 lngPressed_; ///< when last, in milliseconds
+    quint64 lngReleased_ = 0;
+    bool blnOver_ = false; ///< it was pressed anew
+};
+
+} // namespace cellora
