@@ -4,6 +4,7 @@
 #include <span>
 #include <string_view>
 
+#include <QHBoxLayout>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QToolBar>
@@ -132,6 +133,9 @@ constexpr const char* aPictures[] = {"tbr_save",    "tbr_print", "tbr_open", "tb
 
 constexpr int intPictureSize = 24;
 
+const QRect rectFinished = ToPixelRect(3480, 45, 1335, 375);
+constexpr int intCornerMargin = 4; ///< in the menu bar
+
 /// Leaves as much room before the finish button, whose place is fixed, as between the others.
 constexpr int intToolButtonWidth = 30;
 
@@ -216,8 +220,11 @@ void CommandBars::AddButton(const Command& command) {
 void CommandBars::MakeFinishButton() {
     cmdFinished_ = new QPushButton(tbrMain_);
     cmdFinished_->setObjectName(QStringLiteral("cmdFinished"));
-    cmdFinished_->setGeometry(ToPixelRect(3480, 45, 1335, 375));
+    cmdFinished_->setGeometry(rectFinished);
     cmdFinished_->hide();
+    auto* const corner = new QHBoxLayout(window_.menuBar());
+    corner->setContentsMargins(0, 0, intCornerMargin, 0);
+    corner->addStretch();
     QObject::connect(cmdFinished_, &QPushButton::clicked, &window_,
                      [this] { window_.Do(ToggleSolutionView); });
 }
@@ -242,8 +249,25 @@ void CommandBars::Mirror(const View& view) {
         action->setEnabled(view.blnToolbarEnabled && blnAvailable);
     }
     cmdFinished_->setText(ToQString(view.strFinishedCaption));
+    PlaceFinishButton(view);
     cmdFinished_->setVisible(view.blnFinishedVisible);
     tbrMain_->setVisible(view.blnToolbarVisible);
+}
+
+void CommandBars::PlaceFinishButton(const View& view) {
+    QMenuBar& menuBar = *window_.menuBar();
+    const bool blnInMenuBar = view.blnFinishedVisible && !view.blnToolbarVisible;
+    if (blnInMenuBar == (cmdFinished_->parentWidget() == &menuBar))
+        return;
+    // The menu bar keeps its height, and the board its place.
+    const int intHeight = blnInMenuBar ? menuBar.height() : rectFinished.height();
+    cmdFinished_->setFixedSize(rectFinished.width(), intHeight);
+    if (blnInMenuBar) {
+        menuBar.layout()->addWidget(cmdFinished_);
+    } else {
+        cmdFinished_->setParent(tbrMain_);
+        cmdFinished_->move(rectFinished.topLeft());
+    }
 }
 
 } // namespace cellora

@@ -40,6 +40,8 @@ private:
     void AddMenuEntry(QMenu& menu, const Command& command);
     void AddButton(const Command& command);
     void MakeFinishButton();
+    /// On the toolbar, or while that is hidden in the corner of the menu bar.
+    void PlaceFinishButton(const View& view);
 
     frmMain& window_;
     QToolBar* tbrMain_ = nullptr;
