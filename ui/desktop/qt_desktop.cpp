@@ -52,6 +52,11 @@ void ArrangeColumns(const QFileDialog& dialog) {
     list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
+/// A folder that could not be made, as on a disk that takes nothing, would count as a file's name.
+QString GetFolderToShow(const QString& strFolder) {
+    return QFileInfo(strFolder).isDir() ? strFolder : QDir::homePath();
+}
+
 /// The file may be missing, but the folder of a typed name must exist.
 class GameFileDialog final : public QFileDialog {
 public:
@@ -203,7 +208,7 @@ std::optional<std::string> QtDesktop::PickFile(const FileRequest& request) {
     const bool blnSave = request.purpose == FilePurpose::Save;
     const DialogTraces traces;
     GameFileDialog dialog(GetOwner(), blnSave ? QStringLiteral("Save As") : QStringLiteral("Open"),
-                          ToQString(request.strFolder), QLatin1String(strFilter));
+                          GetFolderToShow(ToQString(request.strFolder)), QLatin1String(strFilter));
     dialog.setAcceptMode(blnSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
