@@ -8,6 +8,7 @@
 #include "ui/desktop/look.h"
 #include "ui/desktop/pictures.h"
 #include "ui/desktop/placing.h"
+#include "ui/desktop/snap.h"
 #include "ui/desktop/twips.h"
 #include "ui/desktop/version_info.h"
 
@@ -57,8 +58,9 @@ void frmSplash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     painter.drawPixmap(0, 0, MakePixmap(QStringLiteral("splash"), {370, 190}, devicePixelRatioF()));
-    painter.setPen(QPen(QColor(0x22, 0x30, 0x3C), 1));
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    // A window ends on whole pixels of the device, whatever its size times the scale is.
+    const QSizeF sizeDevice = (QSizeF(size()) * devicePixelRatioF()).toSize();
+    DrawFrame(painter, {QPointF(), sizeDevice / devicePixelRatioF()}, QColor(0x22, 0x30, 0x3C));
     QTimer::singleShot(0, this, &frmSplash::ShowLabels);
 }
 
