@@ -227,6 +227,7 @@ void frmMain::Mirror() {
     const View view = MakeView(game_);
     const bool blnGridThere = picGrid_->isVisible() && picGrid_->isEnabled();
     const int intCursorBefore = picGrid_->grid().intCursorCell;
+    const QWidget* const keyboard = focusWidget();
     picGrid_->Mirror(view);
     startCard_->Mirror(view);
     if (!blnGridThere)
@@ -234,6 +235,8 @@ void frmMain::Mirror() {
     if (!blnGridThere || intCursorBefore != view.grid.intCursorCell)
         RevealCursor();
     picButtons_->Mirror(view);
+    if (keyboard != nullptr && !keyboard->isEnabled())
+        setFocus(); // else the arrows, as soon as a game has ended, would move the zoom
     picStatistics_->Mirror(view);
     commandBars_->Mirror(view);
     SetBackColor(*picBorder_, view.lngBorderBackColor);
