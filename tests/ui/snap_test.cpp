@@ -1,10 +1,11 @@
-#include <QtGui>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <utility>
 
+#include "ui/desktop/program_style.h"
 #include "ui/desktop/snap.h"
 
 namespace cellora {
@@ -65,7 +66,7 @@ void ExpectSides(double dblScale, const std::string& strSides, Draw draw) {
         }
 }
 
-TEST(Snap, FramesAndRingsKeepFourEvenSidesAtEveryScale) {
+TEST(Snap, FramesFacesAndRingsKeepFourEvenSidesAtEveryScale) {
     struct {
         double dblScale;
         const char* strFrame;
@@ -75,10 +76,24 @@ TEST(Snap, FramesAndRingsKeepFourEvenSidesAtEveryScale) {
                          {1.5, "1 1 ", "2 2 "},
                          {1.75, "2 2 ", "2 2 "},
                          {2, "2 2 ", "2 2 "}};
+    const ProgramStyle programStyle;
+    const QStyle& style = programStyle;
+    QStyleOption option;
+    option.state = QStyle::State_Enabled;
+    option.palette = QPalette(Qt::white);
+    option.palette.setColor(QPalette::Base, Qt::white);
+    for (const auto edge : {QPalette::Mid, QPalette::Dark})
+        option.palette.setColor(edge, Qt::black);
     for (const auto& row : aScales) {
         ExpectSides(row.dblScale, row.strFrame, [](QPainter& painter, const QRectF& rect) {
             DrawFrame(painter, rect, Qt::black);
         });
+        for (const auto face : {QStyle::PE_PanelButtonCommand, QStyle::PE_IndicatorCheckBox,
+                                QStyle::PE_FrameLineEdit, QStyle::PE_FrameTabWidget})
+            ExpectSides(row.dblScale, row.strFrame, [&](QPainter& painter, const QRectF& rect) {
+                option.rect = rect.toRect();
+                style.drawPrimitive(face, &option, &painter);
+            });
         ExpectSides(row.dblScale, row.strRing, [](QPainter& painter, const QRectF& rect) {
             DrawFocusRing(painter, rect, Qt::black);
         });

@@ -1,12 +1,15 @@
 #include "ui/desktop/program_style.h"
 
 #include <algorithm>
+#include <iterator>
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
 
+#include "ui/desktop/faces.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/pictures.h"
 #include "ui/desktop/snap.h"
@@ -17,13 +20,11 @@ namespace {
 
 constexpr int intLongestAnimation = 150; ///< milliseconds
 constexpr int intMessageIconSize = 32;
-constexpr int intHoverTint = 31; ///< of 255
-constexpr int intHoverEdge = 90;
-constexpr int intDownTint = 72;
+constexpr int intHoverEdge = 90; ///< of 255
 constexpr int intDownEdge = 153;
 constexpr int intRingInset = 2; ///< of a button, whose own edge tells something else
 constexpr int intTabRingInset = 4;
-constexpr double dblViewEdge = 0.8; ///< no more device pixels than the view inside leaves free
+constexpr int intViewFrame = 2; ///< the toolkit rounds what lies inside, which may take a pixel
 
 bool HasKeyboard(const QStyleOption& option) {
     return option.state.testFlag(QStyle::State_HasFocus) &&
@@ -33,28 +34,6 @@ bool HasKeyboard(const QStyleOption& option) {
 void DrawRing(QPainter& painter, const QStyleOption& option, int intInset) {
     DrawFocusRing(painter, option.rect.adjusted(intInset, intInset, -intInset, -intInset),
                   option.palette.color(QPalette::Highlight));
-}
-
-/// The toolkit's own line leaves a gap after each menu at most scales.
-void DrawMenuBarEdge(QPainter& painter, const QStyleOption& option) {
-    const double dblLine = SnapWidth(painter, 1);
-    QRectF edge = option.rect;
-    edge.setBottom(SnapInside(painter, edge).bottom());
-    edge.setTop(edge.bottom() - 2 * dblLine);
-    painter.fillRect(edge, option.palette.window());
-    edge.setTop(edge.bottom() - dblLine);
-    painter.fillRect(edge, option.palette.color(QPalette::Midlight));
-}
-
-/// Under a picture of the toolbar: a tint of the colour that marks things elsewhere, deeper while
-/// the button is down.
-void DrawToolButton(QPainter& painter, const QStyleOption& option) {
-    QColor color = option.palette.color(QPalette::Highlight);
-    const bool blnDown = option.state.testFlag(QStyle::State_Sunken);
-    color.setAlpha(blnDown ? intDownTint : intHoverTint);
-    painter.fillRect(SnapInside(painter, option.rect), color);
-    color.setAlpha(blnDown ? intDownEdge : intHoverEdge);
-    DrawFrame(painter, option.rect, color);
 }
 
 QString GetMessageIconName(QStyle::StandardPixmap which) {
@@ -72,27 +51,54 @@ QString GetMessageIconName(QStyle::StandardPixmap which) {
 }
 
 /// In the column that the toolkit leaves for its own mark.
-void DrawTick(QPainter& painter, const QStyleOptionMenuItem& item) {
+void DrawMenuTick(QPainter& painter, const QStyleOptionMenuItem& item) {
     const int intColumn = std::max(item.maxIconWidth, 21);
     const QRect place = QStyle::alignedRect(item.direction, Qt::AlignLeft | Qt::AlignVCenter,
                                             {intColumn, item.rect.height()}, item.rect);
     const bool blnSelected = item.state.testFlag(QStyle::State_Selected);
     const QPalette::ColorGroup group =
         item.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(QRectF(place).center());
-    painter.setPen(
-        QPen(item.palette.color(group, blnSelected ? QPalette::HighlightedText : QPalette::Text),
-             1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    constexpr QPointF aTick[] = {{-3.5, 0.25}, {-1, 2.75}, {4, -3}};
-    painter.drawPolyline(aTick, 3);
-    painter.restore();
+    DrawTick(painter, place,
+             item.palette.color(group, blnSelected ? QPalette::HighlightedText : QPalette::Text));
 }
 
-bool IsTicked(const QStyleOptionMenuItem& item) {
-    return item.checkType == QStyleOptionMenuItem::NonExclusive && item.checked;
+/// Of what can be used, the toolkit asks for the panel of a raised or pressed button only.
+void DrawToolButton(QPainter& painter, const QStyleOption& option) {
+    if (!option.state.testFlag(QStyle::State_AutoRaise))
+        return DrawButton(painter, option);
+    QColor color = option.palette.color(QPalette::Highlight);
+    const bool blnDown = (option.state & (QStyle::State_Sunken | QStyle::State_On)) != 0;
+    DrawTint(painter, option.rect, color, blnDown);
+    color.setAlpha(blnDown ? intDownEdge : intHoverEdge);
+    DrawFrame(painter, option.rect, color);
 }
+
+void DrawViewFrame(QPainter& painter, const QStyleOption& option) {
+    DrawPlate(painter, option.rect, option.palette.base(),
+              option.palette.color(HasKeyboard(option) ? QPalette::Highlight : QPalette::Mid), 0);
+}
+
+/// The toolkit's own line leaves a gap after each menu at most scales.
+void DrawMenuBarEdge(QPainter& painter, const QStyleOption& option) {
+    QRectF edge = option.rect;
+    edge.setTop(SnapInside(painter, edge).bottom() - 2 * SnapWidth(painter, 1));
+    painter.fillRect(edge, option.palette.window());
+    DrawFoot(painter, option.rect, option.palette.color(QPalette::Midlight));
+}
+
+struct Face {
+    QStyle::PrimitiveElement element;
+    void (*fnDraw)(QPainter& painter, const QStyleOption& option);
+};
+
+constexpr Face aFaces[] = {
+    {QStyle::PE_PanelButtonCommand, DrawButton},
+    {QStyle::PE_PanelButtonTool, DrawToolButton},
+    {QStyle::PE_IndicatorCheckBox, DrawCheckBox},
+    {QStyle::PE_FrameLineEdit, DrawInputFrame},
+    {QStyle::PE_Frame, DrawViewFrame},
+    {QStyle::PE_FrameTabWidget, DrawTabPane},
+};
 
 } // namespace
 
@@ -127,8 +133,17 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
 
 int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                               const QWidget* widget) const {
-    return metric == PM_MessageBoxIconSize ? intMessageIconSize
-                                           : QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+    case PM_MessageBoxIconSize:
+        return intMessageIconSize;
+    case PM_DefaultFrameWidth:
+        if (qobject_cast<const QAbstractScrollArea*>(widget) != nullptr)
+            return intViewFrame;
+        break;
+    default:
+        break;
+    }
+    return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
@@ -139,53 +154,54 @@ QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* optio
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                  QPainter* painter, const QWidget* widget) const {
-    switch (element) {
-    case PE_FrameFocusRect:
+    if (element == PE_FrameFocusRect) {
         if (option->state.testFlag(State_KeyboardFocusChange))
             DrawRing(*painter, *option, 0);
-        break;
-    case PE_Frame:
-        DrawFrame(*painter, option->rect, option->palette.color(QPalette::Mid), dblViewEdge);
-        if (HasKeyboard(*option))
-            DrawRing(*painter, *option, 0);
-        break;
-    case PE_PanelButtonTool:
-        if (option->state.testFlag(State_AutoRaise))
-            DrawToolButton(*painter, *option);
-        else
-            QProxyStyle::drawPrimitive(element, option, painter, widget);
-        break;
-    case PE_FrameLineEdit:
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-        if (HasKeyboard(*option))
-            DrawRing(*painter, *option, 0);
-        break;
-    default:
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
     }
+    const auto* const face = std::ranges::find(aFaces, element, &Face::element);
+    if (face != std::end(aFaces))
+        face->fnDraw(*painter, *option);
+    else
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_FrameLineEdit && HasKeyboard(*option))
+        DrawRing(*painter, *option, 0);
+}
+
+void ProgramStyle::DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter,
+                                const QWidget* widget) const {
+    if (item.menuItemType == QStyleOptionMenuItem::Separator)
+        return DrawMenuSeparator(painter, item);
+    QStyleOptionMenuItem plain = item;
+    if (item.checkType == QStyleOptionMenuItem::NonExclusive)
+        plain.checkType = QStyleOptionMenuItem::NotCheckable;
+    QProxyStyle::drawControl(CE_MenuItem, &plain, &painter, widget);
+    if (item.checkType == QStyleOptionMenuItem::NonExclusive && item.checked)
+        DrawMenuTick(painter, item);
+}
+
+void ProgramStyle::DrawTabLabel(const QStyleOptionTab& tab, QPainter& painter,
+                                const QWidget* widget) const {
+    QStyleOptionTab plain = tab;
+    plain.rect.setRight(GetTabFace(tab).right());
+    plain.state.setFlag(State_HasFocus, false); // a tint beside the ring
+    QProxyStyle::drawControl(CE_TabBarTabLabel, &plain, &painter, widget);
+    if (HasKeyboard(tab))
+        DrawRing(painter, plain, intTabRingInset);
 }
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
-    if (const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-        item != nullptr && element == CE_MenuItem &&
-        item->checkType == QStyleOptionMenuItem::NonExclusive) {
-        QStyleOptionMenuItem plain = *item;
-        plain.checkType = QStyleOptionMenuItem::NotCheckable;
-        QProxyStyle::drawControl(element, &plain, painter, widget);
-        if (IsTicked(*item))
-            DrawTick(*painter, *item);
-        return;
-    }
-    if (const auto* const tab = qstyleoption_cast<const QStyleOptionTab*>(option);
-        tab != nullptr && element == CE_TabBarTabLabel) {
-        QStyleOptionTab plain = *tab;
-        plain.state.setFlag(State_HasFocus, false); // a tint beside the ring
-        QProxyStyle::drawControl(element, &plain, painter, widget);
-        if (HasKeyboard(*tab))
-            DrawRing(*painter, *tab, intTabRingInset);
-        return;
-    }
+    const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_MenuItem && item != nullptr)
+        return DrawMenuItem(*item, *painter, widget);
+    const auto* const tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+    if (element == CE_TabBarTabLabel && tab != nullptr)
+        return DrawTabLabel(*tab, *painter, widget);
+    if (element == CE_TabBarTabShape && tab != nullptr && tab->shape == QTabBar::RoundedNorth)
+        return DrawTab(*painter, *tab, *proxy());
+    if (element == CE_HeaderSection || element == CE_HeaderEmptyArea)
+        return DrawHeader(*painter, *option);
     QProxyStyle::drawControl(element, option, painter, widget);
     if (element == CE_PushButton && HasKeyboard(*option))
         DrawRing(*painter, *option, intRingInset);
@@ -194,9 +210,30 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
         DrawMenuBarEdge(*painter, *option);
 }
 
+void ProgramStyle::DrawGroupBox(const QStyleOptionGroupBox& group, QPainter& painter,
+                                const QWidget* widget) const {
+    DrawGroupFrame(painter, group, *proxy(), widget);
+    QStyleOptionGroupBox plain = group;
+    plain.subControls.setFlag(SC_GroupBoxFrame, false);
+    QProxyStyle::drawComplexControl(CC_GroupBox, &plain, &painter, widget);
+}
+
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const auto* const combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    const auto* const spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+    const auto* const group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ComboBox && combo != nullptr && !combo->editable && combo->frame)
+        DrawComboBox(*painter, *combo, *proxy(), widget);
+    else if (control == CC_SpinBox && spin != nullptr && spin->frame)
+        DrawSpinBox(*painter, *spin, *proxy(), widget);
+    else if (control == CC_ScrollBar && bar != nullptr)
+        DrawScrollBar(*painter, *bar, *proxy(), widget);
+    else if (control == CC_GroupBox && group != nullptr)
+        DrawGroupBox(*group, *painter, widget);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
     if ((control == CC_ComboBox || control == CC_SpinBox) && HasKeyboard(*option))
         DrawRing(*painter, *option, control == CC_ComboBox ? intRingInset : 0);
 }

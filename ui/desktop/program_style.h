@@ -2,6 +2,10 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionGroupBox;
+class QStyleOptionMenuItem;
+class QStyleOptionTab;
+
 namespace cellora {
 
 /// Fusion in the program's fonts and colours: lists that scroll, plain ticks in menus, the icons of
@@ -27,6 +31,13 @@ public:
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override;
+
+private:
+    void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter,
+                      const QWidget* widget) const;
+    void DrawGroupBox(const QStyleOptionGroupBox& group, QPainter& painter,
+                      const QWidget* widget) const;
+    void DrawTabLabel(const QStyleOptionTab& tab, QPainter& painter, const QWidget* widget) const;
 };
 
 } // namespace cellora

@@ -19,6 +19,9 @@ constexpr double dblTolerance = 0.01;
 constexpr double dblRingWidth = 1.25; ///< one device pixel at the plain scale, then two
 constexpr double dblRingRadius = 2;
 
+constexpr float dblHoverTint = 0.12F; ///< of 1
+constexpr float dblPressTint = 0.28F;
+
 QRect GetDeviceRect(const QPainter& painter, const QRectF& rect) {
     const QRectF device = painter.deviceTransform().mapRect(rect);
     const QPoint topLeft(static_cast<int>(std::ceil(device.left() - dblTolerance)),
@@ -33,6 +36,24 @@ double CountPixels(const QPainter& painter, double dblWidth) {
     return std::max(1.0, std::round(dblWidth * painter.deviceTransform().m11() - dblTolerance));
 }
 
+/// A line of whole device pixels along the inner edge, round a fill.
+void DrawOutlined(QPainter& painter, const QRectF& rect, const QBrush& fill, const QColor& color,
+                  double dblWidth, double dblRadius) {
+    const QTransform toDevice = painter.deviceTransform();
+    const double dblPixels = CountPixels(painter, dblWidth);
+    const double dblInset = dblPixels / 2;
+    const double dblDeviceRadius = dblRadius * toDevice.m11();
+    const QRectF outer(GetDeviceRect(painter, rect));
+    painter.save();
+    painter.setTransform(toDevice.inverted(), true);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, dblPixels, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(fill);
+    painter.drawRoundedRect(outer.adjusted(dblInset, dblInset, -dblInset, -dblInset),
+                            dblDeviceRadius, dblDeviceRadius);
+    painter.restore();
+}
+
 } // namespace
 
 QRectF SnapInside(const QPainter& painter, const QRectF& rect) {
@@ -45,18 +66,22 @@ double SnapWidth(const QPainter& painter, double dblWidth) {
 
 void DrawFrame(QPainter& painter, const QRectF& rect, const QColor& color, double dblWidth,
                double dblRadius) {
-    const QTransform toDevice = painter.deviceTransform();
-    const double dblPixels = CountPixels(painter, dblWidth);
-    const double dblInset = dblPixels / 2;
-    const double dblDeviceRadius = dblRadius * toDevice.m11();
-    const QRectF outer(GetDeviceRect(painter, rect));
+    DrawOutlined(painter, rect, Qt::NoBrush, color, dblWidth, dblRadius);
+}
+
+void DrawPlate(QPainter& painter, const QRectF& rect, const QBrush& fill, const QColor& colorEdge,
+               double dblRadius) {
+    DrawOutlined(painter, rect, fill, colorEdge, 1, dblRadius);
+}
+
+void DrawTint(QPainter& painter, const QRectF& rect, QColor color, bool blnPressed,
+              double dblRadius) {
+    color.setAlphaF(blnPressed ? dblPressTint : dblHoverTint);
     painter.save();
-    painter.setTransform(toDevice.inverted(), true);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, dblPixels, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(outer.adjusted(dblInset, dblInset, -dblInset, -dblInset),
-                            dblDeviceRadius, dblDeviceRadius);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(SnapInside(painter, rect), dblRadius, dblRadius);
     painter.restore();
 }
 

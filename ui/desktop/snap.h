@@ -3,6 +3,7 @@
 #include <QRectF>
 #include <QString>
 
+class QBrush;
 class QColor;
 class QPainter;
 
@@ -21,6 +22,15 @@ double SnapWidth(const QPainter& painter, double dblWidth);
 /// A line along the inner edge of a rectangle, as wide on every side. Both are snapped.
 void DrawFrame(QPainter& painter, const QRectF& rect, const QColor& color, double dblWidth = 1,
                double dblRadius = 0);
+
+/// A filled rectangle with such a line along its edge.
+void DrawPlate(QPainter& painter, const QRectF& rect, const QBrush& fill, const QColor& colorEdge,
+               double dblRadius);
+
+/// The answer of what can be pressed to the pointer, over all that is drawn of it: a tint of a
+/// colour that is seen there, deeper while it is pressed.
+void DrawTint(QPainter& painter, const QRectF& rect, QColor color, bool blnPressed,
+              double dblRadius = 0);
 
 /// The mark of the control that has the keyboard, the same in every window: a ring just inside a
 /// rectangle.
