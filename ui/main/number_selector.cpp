@@ -22,8 +22,6 @@ constexpr double dblFirstLeft = 480;
 constexpr double dblButtonPitch = 600;
 constexpr double dblFocusInset = 2; ///< in pixels
 constexpr double dblTileRadius = 4; ///< in pixels
-constexpr int intHoverAlpha = 26;
-constexpr int intPressAlpha = 64;
 
 } // namespace
 
@@ -97,15 +95,9 @@ void NumberSelectorButton::DrawTile(QPainter& painter, const QRectF& rectPicture
         DrawPicture(painter, rectPicture, GetPictureName(true));
         painter.setOpacity(1);
     }
-    if (!isEnabled() || (!isDown() && !underMouse()))
-        return;
-    QColor colorTint = palette().color(QPalette::Highlight);
-    colorTint.setAlpha(isDown() ? intPressAlpha : intHoverAlpha);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colorTint);
-    const double dblRadius = dblTileRadius * dblZoom_;
-    painter.drawRoundedRect(rectPicture, dblRadius, dblRadius);
+    if (isEnabled() && (isDown() || underMouse()))
+        DrawTint(painter, rectPicture, palette().color(QPalette::Highlight), isDown(),
+                 dblTileRadius * dblZoom_);
 }
 
 void NumberSelectorButton::paintEvent(QPaintEvent*) {

@@ -8,7 +8,6 @@
 #include "rules/contrast.h"
 #include "rules/view.h"
 #include "ui/desktop/look.h"
-#include "ui/desktop/pictures.h"
 #include "ui/desktop/snap.h"
 
 namespace cellora {
@@ -20,22 +19,10 @@ constexpr int intMarkSize = 72;
 constexpr int intButtonGap = 4;
 constexpr QSize sizeStartButton(248, 40);
 constexpr int intTextMargin = 16;
-constexpr qreal dblCorner = 6;
+constexpr double dblCorner = 6;
 
-/// How much of the card's colour lies over what is behind it, of 1.
-constexpr qreal dblEdge = 0.25;
-constexpr qreal dblHover = 0.08;
-constexpr qreal dblPress = 0.16;
-
-QColor Thin(QColor color, qreal dblShare) {
-    color.setAlphaF(static_cast<float>(dblShare));
-    return color;
-}
-
-/// Half a pixel inside, so that the line of a pixel lies on one.
-QRectF GetLineRect(const QWidget& widget) {
-    return QRectF(widget.rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-}
+/// How much of the card's colour is in its edge, of 1.
+constexpr float dblEdge = 0.25F;
 
 } // namespace
 
@@ -58,14 +45,9 @@ QSize StartButton::sizeHint() const {
 
 void StartButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QColor color = palette().color(QPalette::WindowText);
-    if (isDown() || underMouse()) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(Thin(color, isDown() ? dblPress : dblHover));
-        painter.drawRoundedRect(rect(), dblCorner, dblCorner);
-        painter.setBrush(Qt::NoBrush);
-    }
+    if (isDown() || underMouse())
+        DrawTint(painter, rect(), color, isDown(), dblCorner);
     painter.setPen(color);
     const QRect rectText = rect().adjusted(intTextMargin, 0, -intTextMargin, 0);
     painter.drawText(rectText, Qt::AlignLeft | Qt::AlignVCenter, text());
@@ -106,12 +88,12 @@ void StartCard::Mirror(const View& view) {
 
 void StartCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QSize size(intMarkSize, intMarkSize);
-    painter.drawPixmap((width() - intMarkSize) / 2, intCardMargin,
-                       MakePixmap(QStringLiteral("cellora"), size, devicePixelRatioF()));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Thin(palette().color(QPalette::WindowText), dblEdge));
-    painter.drawRoundedRect(GetLineRect(*this), dblCorner, dblCorner);
+    DrawPicture(painter,
+                QRect((width() - intMarkSize) / 2, intCardMargin, intMarkSize, intMarkSize),
+                QStringLiteral("cellora"));
+    QColor colorEdge = palette().color(QPalette::WindowText);
+    colorEdge.setAlphaF(dblEdge);
+    DrawFrame(painter, rect(), colorEdge, 1, dblCorner);
 }
 
 } // namespace cellora
