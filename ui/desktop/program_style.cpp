@@ -183,11 +183,15 @@ void ProgramStyle::DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& pain
 void ProgramStyle::DrawTabLabel(const QStyleOptionTab& tab, QPainter& painter,
                                 const QWidget* widget) const {
     QStyleOptionTab plain = tab;
-    plain.rect.setRight(GetTabFace(tab).right());
+    const QRect face = GetTabFace(tab);
+    // As wide as before, which the text needs.
+    plain.rect.translate(face.center().x() - tab.rect.center().x(), 0);
     plain.state.setFlag(State_HasFocus, false); // a tint beside the ring
     QProxyStyle::drawControl(CE_TabBarTabLabel, &plain, &painter, widget);
-    if (HasKeyboard(tab))
-        DrawRing(painter, plain, intTabRingInset);
+    if (!HasKeyboard(tab))
+        return;
+    plain.rect = face;
+    DrawRing(painter, plain, intTabRingInset);
 }
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
