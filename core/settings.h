@@ -44,6 +44,8 @@ struct Settings {
 
     double dblStartup = 0;     ///< exactly 1: the Instructions open at the start
     std::string strGameFolder; ///< where the file dialogs begin; it may not exist
+
+    std::string strUnread; ///< why a file that is there could not be read, one sentence, else empty
 };
 
 } // namespace cellora

@@ -1,5 +1,6 @@
 #include "rules/start_up.h"
 
+#include "core/desktop.h"
 #include "core/modCellora.h"
 #include "store/modCommon_File.h"
 #include "store/settings.h"
@@ -16,6 +17,15 @@ void LoadMainWindow(Game& game) {
         return;
     game.settings.strGameFolder = game.strProgramFolder;
     SaveSettings(game.files, game.settings, SettingsGroup::Path, GetSettingsFile(game));
+}
+
+void TellOfSettings(Game& game) {
+    if (!game.settings.strUnread.empty())
+        game.desktop.Announce("Settings",
+                              game.settings.strUnread + std::string(strParagraphBreak) +
+                                  "The game goes on with its usual colours and view. Your own stay "
+                                  "in the file, and the next start tries again.",
+                              MessageIcon::Exclamation);
 }
 
 void UnloadMainWindow(const Game& game) {

@@ -15,6 +15,10 @@ std::string GetSettingsFile(const Game& game);
 /// program's own, in the file too.
 void LoadMainWindow(Game& game);
 
+/// Tells the player, once the window is ready, of settings that are there and could not be read.
+/// The run goes on with the defaults and writes no settings.
+void TellOfSettings(Game& game);
+
 /// Writes the five view choices and the zoom.
 void UnloadMainWindow(const Game& game);
 

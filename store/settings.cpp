@@ -133,17 +133,21 @@ std::string FormatRow(const Row& row, const Settings& settings) {
 } // namespace
 
 Settings LoadSettings(FilePort& files, const std::string& strPath) {
-    const std::string strFile = ReadWholeFile(files, strPath, lngMaxINIBytes).bytes;
+    const ReadResult file = ReadWholeFile(files, strPath, lngMaxINIBytes);
     Settings settings;
     for (const Row& row : aRows)
         Visit(row, settings,
-              [&](auto& value) { Parse(FindINI(strFile, row.strSection, row.strKey), value); });
+              [&](auto& value) { Parse(FindINI(file.bytes, row.strSection, row.strKey), value); });
     settings.intZoom = GetNearestZoom(settings.intZoom);
+    settings.strUnread = file.strReason;
     return settings;
 }
 
 void SaveSettings(FilePort& files, const Settings& settings, SettingsGroup group,
                   const std::string& strPath) {
+    const ReadResult file = ReadWholeFile(files, strPath, lngMaxINIBytes);
+    if (!settings.strUnread.empty() || file.outcome == ReadOutcome::Failed)
+        return;
     std::vector<INIValue> values;
     for (const Row& row : aRows) {
         if (row.group != group)
@@ -151,7 +155,7 @@ void SaveSettings(FilePort& files, const Settings& settings, SettingsGroup group
         const std::string strValue = FormatRow(row, settings);
         const bool blnSpared = row.member == Member(&Settings::intZoom) &&
                                strValue == FormatRow(row, {}) &&
-                               ReadINI(files, row.strSection, row.strKey, strPath).empty();
+                               FindINI(file.bytes, row.strSection, row.strKey).empty();
         if (!blnSpared)
             values.push_back({row.strSection, row.strKey, strValue});
     }

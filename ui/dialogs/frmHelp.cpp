@@ -37,8 +37,9 @@ frmHelp::frmHelp(Game& game, QWidget* parent) : Form(game, GetProductName(), {81
     // The wider gap of the style would leave the caption too little room.
     chkStartup_->setStyleSheet(QStringLiteral("spacing: 2px"));
     Place(chkStartup_, 6600, 4765, 1455, 255);
-    chkStartup_->setChecked(
-        std::nearbyint(LoadSettings(game.files, GetSettingsFile(game)).dblStartup) == 1);
+    const Settings stored = LoadSettings(game.files, GetSettingsFile(game));
+    const Settings& known = stored.strUnread.empty() ? stored : game.settings;
+    chkStartup_->setChecked(std::nearbyint(known.dblStartup) == 1);
 }
 
 void frmHelp::ShowTab(int intIndex) {

@@ -9,6 +9,7 @@
 #include "core/desktop.h"
 #include "core/modCellora.h"
 #include "rules/recovery.h"
+#include "rules/start_up.h"
 #include "store/hall_of_fame_form.h"
 #include "store/program_folder.h"
 #include "store/system_files.h"
@@ -86,6 +87,7 @@ void Program::StartMain() {
     main_->activateWindow();
     if (game_->settings.dblStartup == 1)
         desktop_->ShowModal(ModalWindow::frmHelp);
+    TellOfSettings(*game_);
     recovery_->OfferToRestore(*game_);
     main_->Update();
 }
