@@ -61,10 +61,8 @@ void EndWithMistakes(Game& game, int intMistakes) {
                               MessageIcon::Information);
 }
 
-void EndFaultless(Game& game) {
-    if (game.blnLoadingGame)
-        return;
-    game.score.blnWaits = GetRank(game) <= LevelEntries::size();
+void EndFaultless(Game& game, std::int16_t intRank) {
+    game.score.blnWaits = intRank <= LevelEntries::size();
     if (game.score.blnWaits)
         game.desktop.ShowModal(ModalWindow::frmEnterName);
     else
@@ -73,9 +71,8 @@ void EndFaultless(Game& game) {
     game.score = {};
 }
 
-std::int16_t CountEqualEntries(const Game& game, const std::string& strName) {
-    LevelEntries entries;
-    ReadHallOfFame(game, GetCurrentLevel(game), entries);
+std::int16_t CountEqualEntries(const Game& game, const std::string& strName,
+                               const LevelEntries& entries) {
     return static_cast<std::int16_t>(std::ranges::count(
         entries, HallOfFameEntry{strName, game.lngHours, game.lngMinutes, game.lngSeconds}));
 }
@@ -85,8 +82,8 @@ void EndGame(Game& game) {
         return;
     if (const int intMistakes = CountMistakes(game); intMistakes > 0)
         EndWithMistakes(game, intMistakes);
-    else
-        EndFaultless(game);
+    else if (!game.blnLoadingGame)
+        EndFaultless(game, GetRank(game));
 }
 
 } // namespace
@@ -107,16 +104,19 @@ void DoCellCount(Game& game) {
 }
 
 void NoteName(Game& game, const std::string& strName) {
-    game.score.strName = strName;
-    game.score.intEqual = CountEqualEntries(game, strName);
+    LevelEntries entries;
+    const bool blnRead = !ReadHallOfFame(game, GetCurrentLevel(game), entries);
+    // Better asked for a name twice than taken for somebody who has the same time already.
+    game.score.strName = blnRead ? strName : std::string();
+    game.score.intEqual = CountEqualEntries(game, strName, entries);
 }
 
-void EndWaitingGame(Game& game) {
+void EndWaitingGame(Game& game, const LevelEntries& entries) {
     const WaitingScore& score = game.score;
     const bool blnTaken =
-        !score.strName.empty() && CountEqualEntries(game, score.strName) > score.intEqual;
+        !score.strName.empty() && CountEqualEntries(game, score.strName, entries) > score.intEqual;
     if (game.phase == Phase::Finished && CountMistakes(game) == 0 && !blnTaken)
-        EndFaultless(game);
+        EndFaultless(game, GetRank(game, entries));
     game.score = {};
 }
 

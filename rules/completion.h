@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "store/hall_of_fame_form.h"
+
 /// The counts of the statistics pane and the end of a game.
 namespace cellora {
 
@@ -16,8 +18,9 @@ void DoCellCount(Game& game);
 /// entry is made, it tells after a crash whether it was made.
 void NoteName(Game& game, const std::string& strName);
 
-/// Ends a finished game again whose score was left waiting, unless its entry was made all the same.
-void EndWaitingGame(Game& game);
+/// Ends a finished game again whose score was left waiting, unless its entry was made all the same
+/// and is among these of the game's level.
+void EndWaitingGame(Game& game, const LevelEntries& entries);
 
 /// The entries that differ from the solution, over all 81 cells.
 std::int16_t CountMistakes(const Game& game);

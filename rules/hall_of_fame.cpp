@@ -20,18 +20,6 @@ std::string GetFilePath(const Game& game) {
     return JoinPath(game.strProgramFolder, std::string(strHallOfFameFileName));
 }
 
-std::int16_t FindRank(const Game& game, const LevelEntries& entries) {
-    const std::int64_t lngCurrent =
-        GetTimeInSeconds(game.lngHours, game.lngMinutes, game.lngSeconds);
-    std::int16_t intRank = intNoRank;
-    for (std::int16_t i = 10; i >= 1; --i) {
-        const HallOfFameEntry& entry = entries[i];
-        if (lngCurrent <= GetTimeInSeconds(entry.lngHours, entry.lngMinutes, entry.lngSeconds))
-            intRank = i;
-    }
-    return intRank;
-}
-
 /// The entries from that rank on move down; the tenth drops out.
 void InsertEntry(LevelEntries& entries, int intRank, HallOfFameEntry entry) {
     for (int i = intRank; i <= LevelEntries::size(); ++i)
@@ -109,11 +97,13 @@ void TellPlaceWasTaken(const Game& game) {
 
 } // namespace
 
-void ReadHallOfFame(const Game& game, int intLevel, LevelEntries& entries) {
+std::optional<std::string> ReadHallOfFame(const Game& game, int intLevel, LevelEntries& entries) {
     if (intLevel < 1 || intLevel > intLevelCount)
-        return;
-    if (const auto file = ReadWholeFile(game.files, GetFilePath(game), lngMaxHallOfFameBytes))
+        return std::nullopt;
+    const ReadResult file = ReadWholeFile(game.files, GetFilePath(game), lngMaxHallOfFameBytes);
+    if (file)
         ReadLevelBytes(file.bytes, intLevel, entries);
+    return file.outcome == ReadOutcome::Failed ? std::optional(file.strReason) : std::nullopt;
 }
 
 std::int16_t GetCurrentLevel(const Game& game) {
@@ -123,7 +113,19 @@ std::int16_t GetCurrentLevel(const Game& game) {
 std::int16_t GetRank(const Game& game) {
     LevelEntries entries;
     ReadHallOfFame(game, GetCurrentLevel(game), entries);
-    return FindRank(game, entries);
+    return GetRank(game, entries);
+}
+
+std::int16_t GetRank(const Game& game, const LevelEntries& entries) {
+    const std::int64_t lngCurrent =
+        GetTimeInSeconds(game.lngHours, game.lngMinutes, game.lngSeconds);
+    std::int16_t intRank = intNoRank;
+    for (std::int16_t i = 10; i >= 1; --i) {
+        const HallOfFameEntry& entry = entries[i];
+        if (lngCurrent <= GetTimeInSeconds(entry.lngHours, entry.lngMinutes, entry.lngSeconds))
+            intRank = i;
+    }
+    return intRank;
 }
 
 std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::string& strName) {
@@ -133,7 +135,7 @@ std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::stri
         if (intLevel < 1 || intLevel > intLevelCount)
             return;
         LevelEntries& entries = hallOfFame[intLevel];
-        const std::int16_t intRank = FindRank(game, entries);
+        const std::int16_t intRank = GetRank(game, entries);
         blnPlaceTaken = intRank == intNoRank;
         InsertEntry(entries, intRank, {strName, game.lngHours, game.lngMinutes, game.lngSeconds});
     });

@@ -15,9 +15,10 @@ struct Game;
 /// The rank of a time that earns no place.
 inline constexpr std::int16_t intNoRank = 99;
 
-/// Reads one level's ten entries. Errors are ignored: what a missing, short or damaged file does
-/// not give keeps the value it had before the call.
-void ReadHallOfFame(const Game& game, int intLevel, LevelEntries& entries);
+/// Reads one level's ten entries. Errors may be ignored: what a missing, short or damaged file does
+/// not give keeps the value it had before the call. A file that is there but cannot be read gives
+/// nothing, and the reason is returned in one sentence.
+std::optional<std::string> ReadHallOfFame(const Game& game, int intLevel, LevelEntries& entries);
 
 /// The level of the game in play, read from the end of its caption; 0 where it names none.
 std::int16_t GetCurrentLevel(const Game& game);
@@ -25,6 +26,9 @@ std::int16_t GetCurrentLevel(const Game& game);
 /// The place 1 to 10 the current time takes in its level, or 99. A time equal to a stored one
 /// ranks ahead of it.
 std::int16_t GetRank(const Game& game);
+
+/// The same among these entries.
+std::int16_t GetRank(const Game& game, const LevelEntries& entries);
 
 /// Inserts the current game under that name at the rank its time has now, and rewrites the file
 /// whole, under a lock shared by all running copies. A damaged file is kept beside it first, as

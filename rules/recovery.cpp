@@ -9,6 +9,7 @@
 #include "core/modCellora.h"
 #include "rules/completion.h"
 #include "rules/game_file.h"
+#include "rules/hall_of_fame.h"
 #include "store/modCommon_File.h"
 #include "store/program_folder.h"
 
@@ -46,14 +47,24 @@ void TellOfCopy(Game& game, const std::string& strReason, std::string_view strAd
                           MessageIcon::Exclamation);
 }
 
-void Restore(Game& game, const RecoveryCopy& copy) {
+/// Without the times of its level a waiting score would seem to have no place among them. False
+/// when they cannot be read, which the player is told.
+bool ReadOtherTimes(Game& game, const RecoveryCopy& copy, LevelEntries& entries) {
+    const auto strReason = ReadHallOfFame(game, copy.savedGame.statistics.GetLevel(), entries);
+    if (strReason)
+        TellOfCopy(game, *strReason, "The next start tries again.");
+    return !strReason;
+}
+
+/// The entries are those of the game's level when a score waits.
+void Restore(Game& game, const RecoveryCopy& copy, const LevelEntries& entries) {
     game.score = copy.score;
     ShowSavedGame(game, copy.savedGame);
     game.strGameFile = copy.strGameFile;
     game.blnGameChanged = true;
     game.blnSaveOwed = game.phase == Phase::Finished && !copy.score.blnWaits;
     if (copy.score.blnWaits)
-        EndWaitingGame(game);
+        EndWaitingGame(game, entries);
 }
 
 } // namespace
@@ -196,6 +207,9 @@ Recovery::Offer Recovery::OfferCopy(Game& game, const std::shared_ptr<Place>& pl
             PutAside(game, place->strFile, file.bytes);
         return Offer::Done;
     }
+    LevelEntries entries;
+    if (copy->score.blnWaits && !ReadOtherTimes(game, *copy, entries))
+        return Offer::Done;
     const Answer answer = copy->score.blnWaits ? Answer::Yes : AskToRestore(game);
     if (answer == Answer::Cancel)
         return Offer::Later;
@@ -205,7 +219,7 @@ Recovery::Offer Recovery::OfferCopy(Game& game, const std::shared_ptr<Place>& pl
     }
     place_ = place;
     blnWritten_ = true;
-    Restore(game, *copy);
+    Restore(game, *copy, entries);
     return Offer::Opened;
 }
 
