@@ -28,14 +28,14 @@ bool IsLetter(char c) {
 }
 
 /// Trying is the only sure answer: permissions alone know nothing of read-only disks and quotas.
-bool CanCreateFile(FilePort& files, const std::string& strFolder) {
+std::error_code TryToCreateFile(FilePort& files, const std::string& strFolder) {
     const std::string strFile = JoinPath(strFolder, MakeTemporaryName());
     FileHandle file = FileHandle::None;
-    if (files.Create(strFile, {}, file))
-        return false;
+    if (const auto error = files.Create(strFile, {}, file))
+        return error;
     files.Close(file);
     files.Remove(strFile);
-    return true;
+    return {};
 }
 
 /// The folder and those it lies in, as far as they are missing. Failures are ignored.
@@ -55,6 +55,16 @@ void MakeFolders(FilePort& files, std::string strFolder) {
 bool HoldsFiles(FilePort& files, const std::string& strFolder) {
     return FileExists(files, JoinPath(strFolder, std::string(strSettingsFileName))) ||
            FileExists(files, JoinPath(strFolder, std::string(strHallOfFameFileName)));
+}
+
+/// A disk that is full or fails for the moment does not make its files another folder's: best times
+/// and games would seem lost until it is mended.
+bool IsOurs(FilePort& files, const std::string& strFolder) {
+    const auto error = TryToCreateFile(files, strFolder);
+    const bool blnRefused = error == std::errc::permission_denied ||
+                            error == std::errc::operation_not_permitted ||
+                            error == std::errc::read_only_file_system;
+    return !error || (!blnRefused && HoldsFiles(files, strFolder));
 }
 
 bool IsOldTemporary(std::string_view strName) {
@@ -98,10 +108,10 @@ std::string GetUserDataFolder() {
 
 std::string GetProgramFolder(FilePort& files, const std::string& strExecutableFolder,
                              const std::string& strUserDataFolder) {
-    if (strUserDataFolder.empty() || CanCreateFile(files, strExecutableFolder))
+    if (strUserDataFolder.empty() || IsOurs(files, strExecutableFolder))
         return strExecutableFolder;
     MakeFolders(files, strUserDataFolder);
-    const bool blnReadOnly = !CanCreateFile(files, strUserDataFolder) &&
+    const bool blnReadOnly = TryToCreateFile(files, strUserDataFolder) &&
                              !HoldsFiles(files, strUserDataFolder) &&
                              HoldsFiles(files, strExecutableFolder);
     return blnReadOnly ? strExecutableFolder : strUserDataFolder;

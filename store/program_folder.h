@@ -21,9 +21,10 @@ struct ShippedFile {
 std::string GetUserDataFolder();
 
 /// The folder of the settings and hall-of-fame files: the folder of the running program when a file
-/// can be created there, else `strUserDataFolder`, made when missing. When nothing can be written
-/// there either, or there is no user's folder, the program's folder all the same, for what can be
-/// read in it. The folders have no separator at their end.
+/// can be created there, or could be but for a disk that is full or fails where such files lie;
+/// else `strUserDataFolder`, made when missing. When nothing can be written there either, or there
+/// is no user's folder, the program's folder all the same, for what can be read in it. The folders
+/// have no separator at their end.
 std::string GetProgramFolder(FilePort& files, const std::string& strExecutableFolder,
                              const std::string& strUserDataFolder);
 
