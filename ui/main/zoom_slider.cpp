@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "core/zoom.h"
@@ -23,6 +24,7 @@ ZoomSlider::ZoomSlider(Commands commands, QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     connect(this, &QSlider::valueChanged, this, commands_.fnZoomTo);
     connect(this, &QSlider::actionTriggered, this, &ZoomSlider::OnAction);
+    connect(this, &QSlider::sliderPressed, this, &ZoomSlider::TellValue);
 }
 
 void ZoomSlider::Mirror(std::int16_t intZoom, std::int16_t intLargest) {
@@ -30,6 +32,12 @@ void ZoomSlider::Mirror(std::int16_t intZoom, std::int16_t intLargest) {
     setRange(aZoomSteps.front(), intLargest);
     setValue(intZoom);
     setToolTip(QStringLiteral("Zoom: %1 %").arg(intZoom));
+    if (isSliderDown())
+        TellValue();
+}
+
+void ZoomSlider::TellValue() {
+    QToolTip::showText(QCursor::pos(), toolTip(), this);
 }
 
 void ZoomSlider::OnAction(int intAction) const {

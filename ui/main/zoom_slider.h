@@ -30,6 +30,7 @@ protected:
 
 private:
     void OnAction(int intAction) const;
+    void TellValue(); ///< while the handle is dragged: the tool tip has gone with the press
 
     Commands commands_;
     int intTurned_ = 0; ///< of the wheel's next notch
