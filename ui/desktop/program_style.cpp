@@ -238,7 +238,8 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
         DrawGroupBox(*group, *painter, widget);
     else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if ((control == CC_ComboBox || control == CC_SpinBox) && HasKeyboard(*option))
+    if ((control == CC_ComboBox || control == CC_SpinBox || control == CC_Slider) &&
+        HasKeyboard(*option))
         DrawRing(*painter, *option, control == CC_ComboBox ? intRingInset : 0);
 }
 
