@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QScreen>
@@ -41,6 +42,15 @@ constexpr const char* strFilter = "Sudoku Files (*.clp) (*.clp);;All Files (*.*)
 
 /// The size of the file dialogs where the screen holds it.
 constexpr QSize sizeFileDialog(700, 460);
+
+/// Enough for the title of every box beside the buttons of a title bar.
+constexpr int intMessageWidth = 280;
+
+/// The toolkit gives a box the size of its text.
+void WidenForTitle(const QMessageBox& messageBox) {
+    auto* const grid = qobject_cast<QGridLayout*>(messageBox.layout());
+    grid->addItem(new QSpacerItem(intMessageWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
 
 /// Names take the room that the other columns leave, so nothing is cut beside empty space.
 void ArrangeColumns(const QFileDialog& dialog) {
@@ -121,6 +131,7 @@ Answer QtDesktop::ShowMessageBox(const MessageBox& box) {
                            ToMessageText(box.strText),
                            aButtons[static_cast<std::size_t>(box.buttons)], GetOwner());
     messageBox.setTextFormat(Qt::PlainText);
+    WidenForTitle(messageBox);
     // The toolkit would take the leftmost button, which differs from desktop to desktop.
     if (messageBox.button(QMessageBox::Yes) != nullptr)
         messageBox.setDefaultButton(QMessageBox::Yes);
