@@ -403,12 +403,12 @@ void Player::Report() {
 
 /// What was painted piece by piece must be what is painted afresh.
 void Player::CheckScreen() {
-    // Of a very small window nothing of it is seen.
-    if (!machine::IsExact() || !run_.program || !run_.program->mainWindow() ||
-        run_.window().width() < 200)
+    if (!machine::IsExact() || !run_.program || !run_.program->mainWindow())
         return;
     auto& picBorder = run_.Get(QStringLiteral("picBorder"));
     const QRect rect = picBorder.visibleRegion().boundingRect();
+    if (rect.isEmpty())
+        return;
     const QRect rectSeen(picBorder.mapTo(&run_.window(), rect.topLeft()), rect.size());
     const QPixmap screen = run_.window().screen()->grabWindow(run_.window().winId());
     const auto GetPixels = [](const QPixmap& pixmap) {

@@ -139,6 +139,7 @@ void frmMain::MakeBorder() {
                 popupPosition_ = position;
                 Do([&](Game& game) { picButton_MouseUp(game, intNumber, blnRightButton); });
             });
+    connect(qApp, &QApplication::focusChanged, this, &frmMain::RevealNumber);
     MakeGrid();
     startCard_ = new StartCard({findChild<QAction*>(QStringLiteral("mnuNew")),
                                 findChild<QAction*>(QStringLiteral("mnuOpen"))},
@@ -249,6 +250,11 @@ void frmMain::Mirror() {
 void frmMain::RevealCursor() {
     const QRect rectCell = picGrid_->GetCellRect(picGrid_->grid().intCursorCell);
     windowLayout_->Reveal(rectCell.translated(picGrid_->pos()));
+}
+
+void frmMain::RevealNumber(const QWidget*, const QWidget* focus) {
+    if (picButtons_->isAncestorOf(focus))
+        windowLayout_->Reveal({focus->mapTo(picBorder_, QPoint()), focus->size()});
 }
 
 void frmMain::TakeInput(bool blnTakes) {

@@ -94,6 +94,8 @@ private:
     void picGrid_KeyDown(const QKeyEvent& event);
     bool picBorder_Wheel(QWheelEvent& event);
     void RevealCursor();
+    /// When the keyboard moves to a number button.
+    void RevealNumber(const QWidget* before, const QWidget* focus);
     void Form_Activate();
     void FocusGrid();
     void OnTick(Timer timer);
