@@ -90,6 +90,11 @@ QString QGuiApplication::platformName() {
     return QStringLiteral("xcb");
 }
 
+QRect QScreen::availableGeometry() const {
+    const QSize sizeLeft = cellora::machine::sizeScreen;
+    return {geometry().topLeft(), sizeLeft.isEmpty() ? geometry().size() : sizeLeft};
+}
+
 bool QSessionManager::allowsInteraction() {
     return cellora::machine::blnSessionAsks;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QStringList>
 
 /// The machine the windows run on, as far as the tests stand in for it. Its clock stands still
@@ -21,6 +22,8 @@ bool IsOffscreen();
 
 /// Whether every pixel is where it was when the scripts were written.
 bool IsExact();
+
+inline QSize sizeScreen; ///< what the screen leaves to windows; empty: all that it has
 
 inline bool blnSessionAsks = true; ///< the end of the session leaves time to ask
 inline bool blnPrinterInstalled = false;

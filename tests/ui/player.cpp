@@ -212,6 +212,13 @@ private slots:
         run_.window().resize(words.value(0).toInt(), words.value(1).toInt());
     }
 
+    /// screen [WIDTH HEIGHT]: what it leaves to windows from now on.
+    void screen(const QStringList& words) {
+        machine::sizeScreen = {words.value(0).toInt(), words.value(1).toInt()};
+        QScreen& screen = *run_.window().screen();
+        emit screen.availableGeometryChanged(screen.availableGeometry());
+    }
+
     /// file NAME
     void file(const QStringList& words) {
         run_.program->recovery()->Wait();

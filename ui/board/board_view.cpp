@@ -52,12 +52,17 @@ void BoardView::SetPointer(int intPointer) {
     if (intPointer == intPointer_)
         return;
     intPointer_ = intPointer;
-    if (intPointer == 0) {
+    RenewPointer();
+}
+
+void BoardView::RenewPointer() {
+    if (intPointer_ == 0) {
         viewport()->unsetCursor();
         return;
     }
-    const QString strName = intPointer == intEraser ? QStringLiteral("pointer_eraser")
-                                                    : QStringLiteral("pointer_%1").arg(intPointer);
+    const QString strName = intPointer_ == intEraser
+                                ? QStringLiteral("pointer_eraser")
+                                : QStringLiteral("pointer_%1").arg(intPointer_);
     viewport()->setCursor(MakePointer(strName, devicePixelRatioF()));
 }
 

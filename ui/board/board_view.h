@@ -27,6 +27,9 @@ public:
     /// owner's.
     void SetZoom(double dblZoom);
 
+    /// Draws the pointer for the screen that the board is on now.
+    void RenewPointer();
+
     /// What was mirrored last.
     const GridView& grid() const;
 

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QStyle>
+#include <QWindow>
 
 #include "core/modCellora.h"
 #include "rules/selector.h"
@@ -59,6 +60,32 @@ void WindowLayout::ShowAtStart() {
     CenterOnScreen(window_);
     positionAtStart_ = window_.pos();
     window_.showMaximized();
+    QObject::connect(window_.windowHandle(), &QWindow::screenChanged, &tmrFitting_, [this] {
+        WatchScreen();
+        ScreenChanged();
+    });
+    WatchScreen();
+}
+
+void WindowLayout::WatchScreen() {
+    QObject::disconnect(screenWatch_);
+    screenWatch_ = QObject::connect(window_.screen(), &QScreen::availableGeometryChanged,
+                                    &tmrFitting_, [this] {
+                                        ScreenChanged();
+                                        if (game_.blnFitWindow)
+                                            CenterOnScreen(window_);
+                                    });
+}
+
+void WindowLayout::ScreenChanged() {
+    elements_.picGrid->RenewPointer();
+    ApplyZoom();
+    if (game_.blnFitWindow) {
+        // Not to the middle: the player may be moving it.
+        sizeFitted_ = GetFittedSize();
+        window_.resize(sizeFitted_);
+    }
+    Form_Resize();
 }
 
 void WindowLayout::StateChanged() {

@@ -78,6 +78,9 @@ private:
     std::int16_t GetLargestZoomHeld() const;
     QSize GetFittedSize() const;
     void ApplyZoom();
+    void WatchScreen();
+    /// The window is on another screen, or that one has got another size.
+    void ScreenChanged();
     void PlaceInBorder(QWidget& pane, const LayoutRect& rect);
     bool IsOwnResize() const;
 
@@ -114,6 +117,8 @@ private:
     /// Until the window is restored for the first time its frame is not known, nor its true middle.
     QPoint positionAtStart_;
     bool blnRestoredBefore_ = false;
+
+    QMetaObject::Connection screenWatch_; ///< of the size of the screen that the window is on
 };
 
 } // namespace cellora
