@@ -8,7 +8,7 @@ namespace cellora {
 
 /// A desktop on which nothing happens. Its time stands still, and the file its player picks is
 /// always the same.
-class IdleDesktop final : public Desktop {
+class IdleDesktop : public Desktop {
 public:
     Answer ShowMessageBox(const MessageBox&) override { return Answer::Ok; }
     void Beep() override {}
