@@ -6,74 +6,14 @@
 #include <filesystem>
 #include <latch>
 #include <memory>
-#include <random>
 #include <set>
 #include <thread>
 
 #include "store/modCommon_File.h"
-#include "tests/support/faults.h"
+#include "tests/support/child_process.h"
 
 namespace cellora {
 namespace {
-
-/// The lists hold the entries of that many numbers, the last on top; all of them are equal in time.
-HallOfFame MakeList(int intLast) {
-    HallOfFame list = MakeEmptyHallOfFame();
-    for (int i = 1; i <= 10 && i <= intLast; ++i)
-        list[1][i] = {std::to_string(intLast + 1 - i), 0, 0, 0};
-    return list;
-}
-
-class SavingPlayer {
-public:
-    SavingPlayer() {
-        player.Play("puzzle");
-        player.Play("level Level 1");
-        player.Play("gamefile game.clp");
-    }
-
-    /// The bytes of the game in that state, which is put on the board.
-    std::string Format(int intState) {
-        for (Cell& cell : player.game.cells)
-            cell.strEntry = std::to_string(intState);
-        return FormatSavedGame(TakeGame(player.game));
-    }
-
-    bool Save(int intState) {
-        Format(intState);
-        return !WriteGameFile(player.game) &&
-               !SaveHallOfFameEntry(player.game, std::to_string(intState));
-    }
-
-    Player player;
-};
-
-TEST(KilledProgram, LeavesEveryFileOldOrNewAndTheNextOneGoesOn) {
-    SavingPlayer saving;
-    const TemporaryFolder& folder = saving.player.folder;
-    std::mt19937 random(413);
-    int intState = 0; // of the list, which is saved behind the game
-    for (int intKill = 0; intKill < 50; ++intKill) {
-        ChildProcess child([&](const auto& fnTell) {
-            for (int n = intState + 1; saving.Save(n); ++n)
-                fnTell();
-            return false;
-        });
-        ASSERT_TRUE(child.TakeStep()) << "the program does not go on after kill " << intKill;
-        std::this_thread::sleep_for(std::chrono::microseconds(random() % 6000));
-        ASSERT_EQ(child.End(SIGKILL), -SIGKILL);
-        for (++intState; child.TakeStep();)
-            ++intState;
-        // The kill may have come upon the step after those that were told.
-        const std::string strList = folder.ReadBytes("hof.clh");
-        intState += strList == FormatHallOfFame(MakeList(intState + 1)) ? 1 : 0;
-        ASSERT_EQ(strList, FormatHallOfFame(MakeList(intState)));
-        const std::string strGame = folder.ReadBytes("game.clp");
-        ASSERT_TRUE(strGame == saving.Format(intState) || strGame == saving.Format(intState + 1));
-    }
-    std::filesystem::remove(folder.Path("hof.clh.lock"));
-    EXPECT_LE(folder.Count(), 2 + 50) << "no more than one file for each kill";
-}
 
 TEST(HallOfFame, LosesNoEntryOfTwoCopiesWritingAtOnce) {
     Player player;
@@ -99,15 +39,26 @@ TEST(HallOfFame, LosesNoEntryOfTwoCopiesWritingAtOnce) {
     EXPECT_EQ(player.folder.Count(), 1);
 }
 
-TEST(HallOfFame, IsNotReplacedBeforeTheDamagedFileIsKept) {
+/// A disk on which no list of best times can be replaced.
+class FullFiles final : public SystemFiles {
+public:
+    std::error_code Rename(const std::string& strPath, const std::string& strNewPath) override {
+        return strNewPath.ends_with("hof.clh") ? std::make_error_code(std::errc::no_space_on_device)
+                                               : SystemFiles::Rename(strPath, strNewPath);
+    }
+};
+
+TEST(HallOfFame, KeepsADamagedFileOnceThoughItCannotBeReplaced) {
     Player player;
-    const std::string strDamaged(5000, 'x');
-    player.folder.WriteBytes("hof.clh", strDamaged);
-    const auto strReason =
-        WithFileSizeLimit(1000, [&player] { return SaveHallOfFameEntry(player.game, "Player"); });
-    EXPECT_EQ(strReason, "\"" + player.folder.Path("hof.clh.damaged") +
-                             "\" could not be written: File too large.");
-    EXPECT_EQ(player.folder.ReadBytes("hof.clh"), strDamaged);
+    FullFiles files;
+    Game game(player.desktop, files);
+    game.strProgramFolder = player.folder.Path();
+    player.folder.WriteBytes("hof.clh", "damaged");
+    for (int n = 0; n < 3; ++n)
+        EXPECT_TRUE(ResetHallOfFame(game));
+    EXPECT_EQ(player.folder.ReadBytes("hof.clh") + player.folder.ReadBytes("hof.clh.damaged"),
+              "damageddamaged");
+    EXPECT_EQ(player.folder.Count(), 2);
 }
 
 TEST(Recovery, KeepsTheGamesOfNineCopies) {

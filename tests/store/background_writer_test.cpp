@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/faults.h"
+#include "tests/support/child_process.h"
 
 namespace cellora {
 namespace {

@@ -2,16 +2,18 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <thread>
 
 #include <gtest/gtest.h>
 
 #include "store/modCommon_File.h"
+#include "store/process.h"
 #include "store/program_folder.h"
 #include "store/replace_file.h"
 #include "store/system_files.h"
-#include "tests/support/faults.h"
+#include "tests/support/child_process.h"
 #include "tests/support/temporary_folder.h"
 
 namespace cellora {
@@ -125,6 +127,38 @@ TEST_F(Files, OfTheProgramLieBesideItOrInTheUsersFolder) {
     EXPECT_TRUE(std::filesystem::is_directory(strData));
 }
 
+/// Disks on which nothing can be created in some folders, for a reason each.
+class UnwritableFiles final : public SystemFiles {
+public:
+    std::error_code Create(const std::string& strPath, const std::string& strLike,
+                           FileHandle& file) override {
+        for (const auto& [strFolder, error] : errors)
+            if (strPath.starts_with(strFolder))
+                return std::make_error_code(error);
+        return SystemFiles::Create(strPath, strLike, file);
+    }
+
+    std::map<std::string, std::errc> errors;
+};
+
+TEST_F(Files, OfTheProgramStayWhereTheyCanBeReadOrTheDiskIsFull) {
+    constexpr auto refused = std::errc::permission_denied;
+    UnwritableFiles unwritable;
+    const std::string strProgram = folder.MakeFolder("program");
+    const std::string strData = folder.MakeFolder("data");
+    const auto Find = [&](std::map<std::string, std::errc> errors) {
+        unwritable.errors = std::move(errors);
+        return GetProgramFolder(unwritable, strProgram, strData);
+    };
+    EXPECT_EQ(Find({{strProgram, std::errc::no_space_on_device}}), strData) << "nothing is there";
+    folder.WriteBytes("program/cl.ini", "");
+    EXPECT_EQ(Find({{strProgram, std::errc::no_space_on_device}}), strProgram);
+    EXPECT_EQ(Find({{strProgram, std::errc::read_only_file_system}}), strData);
+    EXPECT_EQ(Find({{strProgram, refused}, {strData, refused}}), strProgram);
+    folder.WriteBytes("data/hof.clh", "");
+    EXPECT_EQ(Find({{strProgram, refused}, {strData, refused}}), strData);
+}
+
 TEST_F(Files, LeftByKilledWritesGoWhenTheyAreOld) {
     const std::string strOld = folder.MakeFolder("old");
     const auto Make = [&](const std::string& strName, int intHours) {
@@ -176,16 +210,29 @@ TEST_F(Files, BehindALinkAreReplacedWithTheirMode) {
               perms::owner_read | perms::owner_write);
 }
 
-TEST_F(Files, StayAsTheyWereOnAFullDisk) {
-    for (const std::size_t lngSize : {2, 5000, 100'000}) {
-        for (const std::size_t lngLimit : {std::size_t{0}, std::size_t{1}, lngSize - 1}) {
-            const auto strReason = WithFileSizeLimit(
-                lngLimit, [&] { return ReplaceFile(files, strFile, std::string(lngSize, 'n')); });
-            EXPECT_EQ(strReason, "\"" + strFile + "\" could not be written: File too large.");
-            EXPECT_EQ(Read(strFile, 5), "12345") << lngSize << " " << lngLimit;
-            EXPECT_EQ(folder.Count(), 1);
-        }
-    }
+TEST_F(Files, ThatMayNotGrowAreWritesThatFail) {
+    ChildProcess program([this](const auto&) {
+        const rlimit limit{100, 100};
+        IgnoreFileSizeSignal();
+        return setrlimit(RLIMIT_FSIZE, &limit) == 0 &&
+               ReplaceFile(files, strFile, std::string(5000, 'n'));
+    });
+    EXPECT_EQ(program.End(0), 0);
+    EXPECT_EQ(Read(strFile, 5), "12345");
+    EXPECT_EQ(folder.Count(), 1);
+}
+
+TEST_F(Files, LockedByACopyThatIsKilledAreFree) {
+    ChildProcess program([this](const auto& fnTell) {
+        FileLock lock(files, strFile);
+        while (lock.TryLock(0) == LockOutcome::Locked)
+            fnTell();
+        return pause() == 0;
+    });
+    ASSERT_TRUE(program.TakeStep());
+    EXPECT_EQ(FileLock(files, strFile).TryLock(0), LockOutcome::HeldElsewhere);
+    EXPECT_EQ(program.End(SIGKILL), -SIGKILL);
+    EXPECT_EQ(FileLock(files, strFile).TryLock(0), LockOutcome::Locked);
 }
 
 TEST_F(Files, OfTheUserFollowTheEnvironment) {

@@ -1,6 +1,7 @@
 #pragma once
 
-// The POSIX side of the tests about faults; elsewhere those tests are left out.
+// The POSIX side of the tests about other processes and their limits; elsewhere those tests are
+// left out.
 #ifndef _WIN32
 
 #include <csignal>
@@ -10,23 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "store/process.h"
-
 namespace cellora {
-
-/// Runs the routine while no file can grow beyond a size, as on a disk that fills up and in the
-/// program from its start on. A test that reports a failure meanwhile may lose it.
-template <typename Routine>
-auto WithFileSizeLimit(rlim_t lngBytes, Routine fnRun) {
-    IgnoreFileSizeSignal();
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    const rlimit limit{lngBytes, old.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    auto result = fnRun();
-    setrlimit(RLIMIT_FSIZE, &old);
-    return result;
-}
 
 /// A copy of this process that runs one routine and may tell its steps. Nothing of the test
 /// framework works in it.
