@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/temporary_folder.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/look.h"
 
@@ -29,6 +30,24 @@ TEST(Look, ADesktopsThemeChangesNeitherFontsNorColours) {
     }
     EXPECT_EQ(QApplication::font("QMenu"), MakeFont(8));
 }
+
+#ifdef Q_OS_LINUX
+TEST(Look, NothingMovesWhereTheDesktopWantsItStill) {
+    const TemporaryFolder folder;
+    folder.MakeFolder("gtk-3.0");
+    qputenv("XDG_CONFIG_HOME", folder.Path().c_str());
+    const auto Write = [&](const char* strFile, const char* strText) {
+        folder.WriteBytes(strFile, strText);
+        return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration);
+    };
+    EXPECT_EQ(Write("kdeglobals", "[KDE]\nAnimationDurationFactor=0.5\n"), 150);
+    EXPECT_EQ(Write("kdeglobals", "[KDE]\nAnimationDurationFactor=0\n"), 0);
+    EXPECT_EQ(Write("kdeglobals", ""), 150);
+    EXPECT_EQ(Write("gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=false\n"), 0);
+    EXPECT_EQ(Write("gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=1\n"), 150);
+    qunsetenv("XDG_CONFIG_HOME");
+}
+#endif
 
 #ifdef Q_OS_WIN
 TEST(Look, KeysOfTheDigitRowAreDigitsWhateverTheyWrite) {

@@ -9,6 +9,7 @@
 #include <QStyleOption>
 #include <QWidget>
 
+#include "store/process.h"
 #include "ui/desktop/faces.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/pictures.h"
@@ -125,7 +126,9 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
     case SH_ComboBox_Popup:                   // a list that scrolls, not a menu of all its rows
         return 0;
     case SH_Widget_Animation_Duration: // none where the desktop wants none
-        return std::min(QProxyStyle::styleHint(hint, option, widget, data), intLongestAnimation);
+        return AsksForStillness() ? 0
+                                  : std::min(QProxyStyle::styleHint(hint, option, widget, data),
+                                             intLongestAnimation);
     default:
         return QProxyStyle::styleHint(hint, option, widget, data);
     }
