@@ -127,10 +127,10 @@ void Recovery::Observe(Game& game) {
     const bool blnScoreIsNew = std::exchange(score_, game.score) != game.score;
     if (!NeedsCopy(game))
         return Remove();
-    if (blnScoreIsNew || (blnOwed_ && !blnWasOwed)) {
+    if (blnScoreIsNew || (blnOwed_ && !blnWasOwed))
         Write(game);
+    if (blnScoreIsNew)
         Wait();
-    }
     const auto IsSeen = [](const Cell& cell, const SavedCell& seen) {
         return cell.blnGiven == seen.blnGiven && cell.strSolution == seen.strSolution &&
                cell.strEntry == seen.strEntry && cell.strNotes == seen.strNotes;

@@ -319,6 +319,7 @@ void frmMain::EndSession(QSessionManager& manager) {
     answered_ = TakeGame(game_);
     UnloadMainWindow(game_);
     Update();
+    recovery_.Wait(); // from here on the program may be ended at any time
 }
 
 void frmMain::changeEvent(QEvent* event) {
