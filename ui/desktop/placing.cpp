@@ -4,17 +4,40 @@
 
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 namespace cellora {
 
+namespace {
+
+/// Until a window is shown its frame is expected to be that of the window it belongs to.
+QMargins GetFrame(const QWidget& window) {
+    const QWindow* const handle = window.windowHandle();
+    const QMargins frame = handle != nullptr ? handle->frameMargins() : QMargins();
+    return frame.isNull() && window.parentWidget() != nullptr
+               ? GetFrame(*window.parentWidget()->window())
+               : frame;
+}
+
+} // namespace
+
+QSize GetLargestSize(const QWidget& window) {
+    return window.screen()->availableSize().shrunkBy(GetFrame(window));
+}
+
 void CenterOnScreen(QWidget& window) {
+    const QMargins frame = GetFrame(window);
     const QRect rectScreen = window.screen()->geometry();
-    const QSize sizeFree = rectScreen.size() - window.frameGeometry().size();
-    const QPoint middle =
-        rectScreen.topLeft() + QPoint(sizeFree.width() / 2, sizeFree.height() / 2);
     const QRect rectAvailable = window.screen()->availableGeometry();
-    window.move(std::max(middle.x(), rectAvailable.left()),
-                std::max(middle.y(), rectAvailable.top()));
+    QRect rect(QPoint(), window.size().grownBy(frame));
+    const QSize sizeFree = rectScreen.size() - rect.size();
+    rect.moveTo(rectScreen.topLeft() + QPoint(sizeFree.width() / 2, sizeFree.height() / 2));
+    rect.moveRight(std::min(rect.right(), rectAvailable.right()));
+    rect.moveBottom(std::min(rect.bottom(), rectAvailable.bottom()));
+    rect.moveLeft(std::max(rect.left(), rectAvailable.left()));
+    rect.moveTop(std::max(rect.top(), rectAvailable.top()));
+    // Not by its frame, which the window system may not have given to it yet.
+    window.setGeometry(rect.marginsRemoved(frame));
 }
 
 } // namespace cellora

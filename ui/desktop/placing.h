@@ -1,12 +1,16 @@
 #pragma once
 
+class QSize;
 class QWidget;
 
 namespace cellora {
 
-/// Moves a window to the middle of its screen, with its frame where that is known already: from the
-/// first showing on. Of a window that is too large its upper left corner stays on the screen, clear
-/// of the desktop's panels.
+/// The size of a window that, with its frame, takes all that the desktop's panels leave of its
+/// screen.
+QSize GetLargestSize(const QWidget& window);
+
+/// Moves a window with its frame to the middle of its screen, clear of the desktop's panels where
+/// it fits. Of a window that is too large the upper left corner stays on the screen.
 void CenterOnScreen(QWidget& window);
 
 } // namespace cellora

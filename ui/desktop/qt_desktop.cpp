@@ -10,7 +10,6 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QMessageBox>
-#include <QScreen>
 #include <QTime>
 #include <QTimer>
 #include <QTreeView>
@@ -225,7 +224,7 @@ std::optional<std::string> QtDesktop::PickFile(const FileRequest& request) {
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     ArrangeColumns(dialog);
-    dialog.resize(sizeFileDialog.boundedTo(dialog.screen()->availableSize()));
+    dialog.resize(sizeFileDialog.boundedTo(GetLargestSize(dialog)));
     CenterOnScreen(dialog);
     if (Execute(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
