@@ -189,8 +189,14 @@ void Recovery::OfferToRestore(Game& game) {
         const std::string strFile = GetFile(intCopy);
         if (IsMissing(files_, strFile))
             continue;
-        const auto place = Lock(strFile);
-        if (place != nullptr && OfferCopy(game, place) != Offer::Done)
+        const auto place = std::make_shared<Place>(files_, strFile);
+        const LockOutcome outcome = place->lock.TryLock(0);
+        if (outcome == LockOutcome::Failed && FileExists(files_, strFile))
+            TellOfCopy(game,
+                       "The folder of the file \"" + strFile +
+                           "\" cannot be written, or its disk is full.",
+                       "The next start tries again.");
+        if (outcome == LockOutcome::Locked && OfferCopy(game, place) != Offer::Done)
             return;
     }
 }

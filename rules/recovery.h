@@ -38,9 +38,10 @@ public:
     /// To be called at the start, before any game. Of the copies that were left behind, a game with
     /// a waiting score ends again; about others the player is asked until one is opened, as a
     /// changed game that still knows its file. No removes a copy; a closed question ends the asking
-    /// and leaves it for the next start, and so does a copy that cannot be read. A damaged copy is
-    /// put aside as "copy-1.damaged", or "copy-1.damaged-2" and so on, and what is no copy is let
-    /// alone. What an earlier version left behind under its names is offered with the rest.
+    /// and leaves it for the next start, and so does a copy that cannot be read or locked. A
+    /// damaged copy is put aside as "copy-1.damaged", or "copy-1.damaged-2" and so on, and what is
+    /// no copy is let alone. What an earlier version left behind under its names is offered with
+    /// the rest.
     void OfferToRestore(Game& game);
 
     /// The orderly end of the program: the copy goes, unless changes are still owed to the player

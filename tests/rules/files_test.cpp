@@ -142,6 +142,26 @@ private:
     std::set<std::string> removed_;
 };
 
+/// A disk that has become read-only.
+class UnlockableFiles final : public SystemFiles {
+public:
+    std::error_code TakeLock(const std::string&, FileHandle&) override {
+        return std::make_error_code(std::errc::read_only_file_system);
+    }
+};
+
+TEST(Recovery, TellsOfACopyThatItCannotLock) {
+    Player player;
+    player.Play("puzzle");
+    for (const char* const strCommand : {"recovery", "keep", "crash"})
+        player.Play(strCommand);
+    UnlockableFiles files;
+    Recovery(files, player.folder.Path()).OfferToRestore(player.game);
+    ASSERT_EQ(player.desktop.boxes.size(), 1);
+    EXPECT_TRUE(player.desktop.boxes[0].strText.ends_with("The next start tries again."));
+    EXPECT_FALSE(player.folder.ReadBytes(".recovery/copy-1").empty());
+}
+
 TEST(Recovery, TriesAtTheEndToRemoveWhatStayed) {
     Player player;
     player.Play("puzzle");
