@@ -9,6 +9,8 @@
 #include <QSvgRenderer>
 #include <QWidget>
 
+#include "core/modCommon_Constants.h"
+
 namespace cellora {
 
 namespace {
@@ -68,6 +70,13 @@ QPixmap MakePixmap(const QString& strName, QSize size, qreal dblDevicePixelRatio
     painter.end();
     QPixmapCache::insert(strKey, picture);
     return picture;
+}
+
+QString GetButtonPicture(int intNumber, bool blnShaded) {
+    if (intNumber == intEraser)
+        return QStringLiteral("button_eraser");
+    return QStringLiteral("button_%1").arg(intNumber) +
+           (blnShaded ? QStringLiteral("_shaded") : QString());
 }
 
 QIcon MakeIcon(const QString& strName) {

@@ -14,6 +14,9 @@ namespace cellora {
 /// to each.
 QPixmap MakePixmap(const QString& strName, QSize size, qreal dblDevicePixelRatio);
 
+/// The picture of a number button, 1 to 9 or 10, the eraser; of a digit that is complete, shaded.
+QString GetButtonPicture(int intNumber, bool blnShaded = false);
+
 /// An icon that draws itself at the size and scale asked for.
 QIcon MakeIcon(const QString& strName);
 

@@ -9,6 +9,7 @@
 #include "rules/view.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/look.h"
+#include "ui/desktop/pictures.h"
 #include "ui/desktop/snap.h"
 #include "ui/desktop/twips.h"
 
@@ -80,19 +81,12 @@ void NumberSelectorButton::Settle() {
         settling_.start();
 }
 
-QString NumberSelectorButton::GetPictureName(bool blnShaded) const {
-    if (intNumber_ == intEraser)
-        return QStringLiteral("button_eraser");
-    return QStringLiteral("button_%1").arg(intNumber_) +
-           (blnShaded ? QStringLiteral("_shaded") : QString());
-}
-
 void NumberSelectorButton::DrawTile(QPainter& painter, const QRectF& rectPicture) const {
     const bool blnSettling = settling_.state() == QAbstractAnimation::Running;
-    DrawPicture(painter, rectPicture, GetPictureName(blnShaded_ && !blnSettling));
+    DrawPicture(painter, rectPicture, GetButtonPicture(intNumber_, blnShaded_ && !blnSettling));
     if (blnSettling) {
         painter.setOpacity(settling_.currentValue().toDouble());
-        DrawPicture(painter, rectPicture, GetPictureName(true));
+        DrawPicture(painter, rectPicture, GetButtonPicture(intNumber_, true));
         painter.setOpacity(1);
     }
     if (isEnabled() && (isDown() || underMouse()))

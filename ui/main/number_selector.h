@@ -39,7 +39,6 @@ protected:
     void nextCheckState() override;
 
 private:
-    QString GetPictureName(bool blnShaded) const;
     QPoint GetPopupPosition() const;
     void DrawTile(QPainter& painter, const QRectF& rectPicture) const;
     void Settle();
