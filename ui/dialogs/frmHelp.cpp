@@ -3,8 +3,11 @@
 #include <cmath>
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTabWidget>
 
@@ -52,6 +55,20 @@ void frmHelp::done(int intResult) {
     Form::done(intResult);
 }
 
+void frmHelp::keyPressEvent(QKeyEvent* event) {
+    QScrollBar* const bar = static_cast<QScrollArea*>(tab_->currentWidget())->verticalScrollBar();
+    switch (event->key()) {
+    case Qt::Key_PageDown:
+        bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        break;
+    case Qt::Key_PageUp:
+        bar->triggerAction(QAbstractSlider::SliderPageStepSub);
+        break;
+    default:
+        Form::keyPressEvent(event);
+    }
+}
+
 void frmHelp::MakePicture() {
     QLabel* const picture = AddLabel(this, QStringLiteral("Picture1"), {}, 120, 240, 1785, 3825);
     picture->setPixmap(
@@ -63,9 +80,9 @@ void frmHelp::MakeTabs() {
     tab_->setObjectName(QStringLiteral("tab"));
     tab_->setAccessibleName(QStringLiteral("Instructions"));
     Place(tab_, 2160, 720, 5830, 3975);
-    tab_->addTab(MakeInstructionsPage(), QStringLiteral("Instructions"));
-    tab_->addTab(MakeControlsPage(), QStringLiteral("Controls"));
-    tab_->addTab(MakeMenusPage(), QStringLiteral("Menus"));
+    tab_->addTab(MakeInstructionsPage(game()), QStringLiteral("Instructions"));
+    tab_->addTab(MakeControlsPage(game()), QStringLiteral("Controls"));
+    tab_->addTab(MakeMenusPage(game()), QStringLiteral("Menus"));
     tab_->addTab(MakeHistoryPage(), QStringLiteral("History"));
     // The tab control itself hears these keys only while the keyboard is in it.
     connect(new QShortcut(QKeySequence::NextChild, this), &QShortcut::activated, this,

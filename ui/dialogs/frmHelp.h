@@ -20,6 +20,10 @@ public:
     /// Every way of closing ends here, and the start-up choice is written.
     void done(int intResult) override;
 
+protected:
+    /// A page that is longer than its place scrolls by page keys, wherever the keyboard is.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void MakePicture();
     void MakeTabs();

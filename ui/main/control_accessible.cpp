@@ -2,6 +2,7 @@
 
 #include <QAccessibleWidget>
 
+#include "ui/dialogs/help_pictures.h"
 #include "ui/dialogs/link_label.h"
 #include "ui/main/number_selector.h"
 #include "ui/main/statistics_pane.h"
@@ -35,6 +36,10 @@ private:
 QAccessibleInterface* MakeControl(const QString&, QObject* object) {
     if (auto* const label = qobject_cast<LinkLabel*>(object))
         return new AccessibleLink(*label);
+    const bool blnPicture = qobject_cast<BoardPicture*>(object) != nullptr ||
+                            qobject_cast<ButtonPicture*>(object) != nullptr;
+    if (blnPicture)
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
     const bool blnPane = qobject_cast<StatisticsPane*>(object) != nullptr ||
                          qobject_cast<NumberSelector*>(object) != nullptr;
     if (blnPane)
