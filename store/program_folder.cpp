@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <vector>
 
 #include <QDir>
@@ -70,15 +71,16 @@ bool IsOurs(FilePort& files, const std::string& strFolder) {
 bool IsOldTemporary(std::string_view strName) {
     if (IsTemporaryName(strName))
         return true;
-    // Earlier versions put six letters at random behind the name. Only those that can hardly be a
-    // word of a player's count.
+    // Earlier versions put six letters at random behind the name, and so does the toolkit. Only
+    // those that can hardly be a word of a player's count.
+    constexpr std::string_view aOwners[] = {strSettingsFileName, strHallOfFameFileName,
+                                            "recovery.clp", "QtProject.conf"};
     const std::size_t lngDot = strName.rfind('.');
     const std::string_view strOwner = strName.substr(0, lngDot);
     const std::string_view strLetters =
         lngDot == std::string_view::npos ? std::string_view() : strName.substr(lngDot + 1);
-    if ((strOwner != strSettingsFileName && strOwner != strHallOfFameFileName &&
-         strOwner != "recovery.clp") ||
-        strLetters.size() != 6 || !std::ranges::all_of(strLetters, IsLetter))
+    if (std::ranges::find(aOwners, strOwner) == std::end(aOwners) || strLetters.size() != 6 ||
+        !std::ranges::all_of(strLetters, IsLetter))
         return false;
     int intChanges = 0;
     bool blnOddCapital = IsCapital(strLetters.back());

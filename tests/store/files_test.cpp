@@ -172,7 +172,7 @@ TEST_F(Files, LeftByKilledWritesGoWhenTheyAreOld) {
     for (const std::string& strName : aKept)
         Make(strName, 1000);
     for (const char* const strName :
-         {".cellora-0123456789ab.tmp", "hof.clh.aBCdEf", "cl.ini.qRsTUv"})
+         {".cellora-0123456789ab.tmp", "hof.clh.aBCdEf", "cl.ini.qRsTUv", "QtProject.conf.gErtbG"})
         Make(strName, 2);
     const std::string strNew = MakeTemporaryName();
     Make(strNew, 0);
