@@ -40,6 +40,11 @@ TEST_F(Files, AreToldFromFoldersAndNothing) {
         EXPECT_FALSE(FileExists(files, strPath) || PathExists(files, strPath)) << strPath;
 }
 
+TEST_F(Files, ThatCannotBeExaminedAreNotMissing) {
+    EXPECT_TRUE(IsMissing(files, folder.Path("missing")) && !IsMissing(files, strFile));
+    EXPECT_FALSE(IsMissing(files, folder.Path(std::string(5000, 'x'))));
+}
+
 TEST_F(Files, LieInTheFolderBeforeTheLastSeparator) {
     constexpr bool blnWindows = std::filesystem::path::preferred_separator == '\\';
     constexpr std::pair<const char*, const char*> aCases[] = {
