@@ -17,6 +17,7 @@ constexpr int intTabGap = 3;  ///< of which the next tab takes one back
 constexpr int intGroupInset = 3;
 constexpr int intDividerInset = 4;
 constexpr int intSliderInset = 3;
+constexpr int intGrooveHeight = 5;
 constexpr int intSeparatorInset = 4;
 
 bool IsEnabled(const QStyleOption& option) {
@@ -192,6 +193,28 @@ void DrawSpinBox(QPainter& painter, const QStyleOptionSpinBox& box, const QStyle
         DrawArrow(painter, box, part, arrow,
                   style.subControlRect(QStyle::CC_SpinBox, &box, part, widget),
                   box.stepEnabled.testFlag(step), style);
+}
+
+void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QStyle& style,
+                const QWidget* widget) {
+    const QRect rectHandle =
+        style.subControlRect(QStyle::CC_Slider, &slider, QStyle::SC_SliderHandle, widget);
+    const QRect rectGroove = QStyle::alignedRect(
+        slider.direction, Qt::AlignCenter,
+        {slider.rect.width() - 2 * intSliderInset, intGrooveHeight}, slider.rect);
+    QRect rectCovered = rectGroove;
+    rectCovered.setRight(rectHandle.center().x());
+    const QColor colorCovered = slider.palette.color(QPalette::Highlight);
+    DrawPlate(painter, rectGroove, slider.palette.midlight(), GetEdge(slider), dblFaceRadius);
+    DrawPlate(painter, rectCovered, colorCovered, colorCovered, dblFaceRadius);
+    QStyleOption handle(slider);
+    handle.rect = rectHandle;
+    DrawRaised(painter, handle, GetEdge(slider));
+    const bool blnTouched = slider.activeSubControls == QStyle::SC_SliderHandle;
+    handle.state.setFlag(QStyle::State_MouseOver,
+                         blnTouched && slider.state.testFlag(QStyle::State_MouseOver));
+    AnswerPointer(painter, handle, rectHandle,
+                  blnTouched && slider.state.testFlag(QStyle::State_Sunken));
 }
 
 void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QStyle& style,

@@ -43,6 +43,8 @@ void DrawComboBox(QPainter& painter, const QStyleOptionComboBox& box, const QSty
                   const QWidget* widget);
 void DrawSpinBox(QPainter& painter, const QStyleOptionSpinBox& box, const QStyle& style,
                  const QWidget* widget);
+void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QStyle& style,
+                const QWidget* widget);
 void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QStyle& style,
                    const QWidget* widget);
 

@@ -50,7 +50,7 @@ constexpr PaletteEntry aPalette[] = {
     {QPalette::Light, 0xFFFFFFFF, 0xFFFFFFFF},
     {QPalette::Midlight, 0xFFE2E8EE, 0xFFE2E8EE},
     {QPalette::Mid, 0xFFB7C1CB, 0xFFB7C1CB},
-    {QPalette::Dark, 0xFF8C98A4, 0xFF8C98A4},
+    {QPalette::Dark, 0xFF7E8A96, 0xFF7E8A96},
     {QPalette::Shadow, 0xFF5B6874, 0xFF5B6874},
 };
 

@@ -237,6 +237,8 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
         DrawSpinBox(*painter, *spin, *proxy(), widget);
     else if (control == CC_ScrollBar && bar != nullptr)
         DrawScrollBar(*painter, *bar, *proxy(), widget);
+    else if (control == CC_Slider && bar != nullptr && bar->orientation == Qt::Horizontal)
+        DrawSlider(*painter, *bar, *proxy(), widget);
     else if (control == CC_GroupBox && group != nullptr)
         DrawGroupBox(*group, *painter, widget);
     else
