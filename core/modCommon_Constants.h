@@ -22,7 +22,7 @@ inline constexpr Color lngColorLightYellow = MakeColor(255, 255, 192);
 
 /// The fixed palette's stand-ins for the desktop's system colours. The inactive caption text is
 /// close to the board's white, so that a paused board cannot be studied.
-inline constexpr Color lngColorInactiveCaptionText = MakeColor(232, 235, 238);
+inline constexpr Color lngColorInactiveCaptionText = MakeColor(248, 249, 250);
 inline constexpr Color lngColorButtonShadow = MakeColor(140, 152, 164);
 inline constexpr Color lngColorWindowText = lngColorBlack;
 inline constexpr Color lngColorButtonText = lngColorBlack;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace cellora {
 
@@ -9,7 +10,8 @@ namespace {
 
 constexpr double dblReads = 4.5;
 constexpr double dblSeen = 3;
-constexpr double dblHardlySeen = 1.2;
+constexpr double dblHardlySeen = 1.06;
+constexpr int intHardlySeen = 8; ///< of 255, as colours as light as another can differ
 
 constexpr int intWhole = 64;
 constexpr int intThird = 21;
@@ -25,6 +27,14 @@ double GetLuminance(Color lngColor) {
         return dblPart <= 0.04045 ? dblPart / 12.92 : std::pow((dblPart + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * GetLight(0) + 0.7152 * GetLight(8) + 0.0722 * GetLight(16);
+}
+
+/// The largest difference of their parts.
+int GetDistance(Color lngColor, Color lngOther) {
+    const auto Differ = [=](int intBits) {
+        return std::abs(GetPart(lngColor, intBits) - GetPart(lngOther, intBits));
+    };
+    return std::max({Differ(0), Differ(8), Differ(16)});
 }
 
 /// So many of `intWhole` parts of one colour, the rest of the other.
@@ -74,7 +84,8 @@ Color Tint(Color lngColor, Color lngBehind, Color lngText) {
 
 Color Conceal(Color lngBehind) {
     return MixMost(lngColorInactiveCaptionText, lngBehind, intWhole, [lngBehind](Color lngMixed) {
-        return GetContrast(lngMixed, lngBehind) <= dblHardlySeen;
+        return GetContrast(lngMixed, lngBehind) <= dblHardlySeen &&
+               GetDistance(lngMixed, lngBehind) <= intHardlySeen;
     });
 }
 

@@ -21,7 +21,8 @@ Color MakeSeen(Color lngColor, Color lngBehind);
 Color Tint(Color lngColor, Color lngBehind, Color lngText);
 
 /// The inactive caption text's colour, or as much of it as can hardly be told from what lies
-/// behind: their contrast is 1.2 at most.
+/// behind, not even in large digits: their contrast is 1.06 at most, and no part of them is more
+/// than 8 of 255 apart.
 Color Conceal(Color lngBehind);
 
 } // namespace cellora
