@@ -377,7 +377,7 @@ TEST_P(Faults, LoseNothing) {
                                       std::errc::read_only_file_system,
                                       std::errc::permission_denied, std::errc::not_supported})
             Try(Fault::Error, intCall, error);
-        for (const Fault fault : {Fault::CutRead, Fault::Kill})
+        for (const Fault fault : {Fault::CutRead, Fault::Full, Fault::Kill})
             Try(fault, intCall, std::errc::io_error);
     }
     RecordProperty("calls", after.intCalls);

@@ -24,6 +24,7 @@ public:
         Error,   ///< one call fails; of a write half is done
         CutRead, ///< one call of `Read` gives half of what there is, and the file seems to end
                  ///< there
+        Full,    ///< from that call on the disk takes nothing more
         Kill,    ///< from that call on nothing reaches the disk: for it the program is dead
     };
 
@@ -51,7 +52,7 @@ public:
     }
     std::error_code Create(const std::string& strPath, const std::string& strLike,
                            FileHandle& file) override {
-        if (Fails())
+        if (Fails(true))
             return error_;
         const auto error = SystemFiles::Create(strPath, strLike, file);
         strNew_ = strPath;
@@ -74,7 +75,7 @@ public:
     }
     std::error_code Write(FileHandle file, std::string_view bytes,
                           std::size_t& lngWritten) override {
-        if (!Fails())
+        if (!Fails(true))
             return SystemFiles::Write(file, bytes, lngWritten);
         if (intCalls_ == intBroken_)
             SystemFiles::Write(file, bytes.substr(0, bytes.size() / 2), lngWritten);
@@ -108,14 +109,14 @@ public:
         return Fails() ? error_ : std::error_code();
     }
     std::error_code MakeFolder(const std::string& strPath) override {
-        return Fails() ? error_ : SystemFiles::MakeFolder(strPath);
+        return Fails(true) ? error_ : SystemFiles::MakeFolder(strPath);
     }
     std::error_code ListFolder(const std::string& strPath,
                                std::vector<std::string>& names) override {
         return Fails() ? error_ : SystemFiles::ListFolder(strPath, names);
     }
     std::error_code TakeLock(const std::string& strPath, FileHandle& lock) override {
-        return Fails() ? error_ : SystemFiles::TakeLock(strPath, lock);
+        return Fails(true) ? error_ : SystemFiles::TakeLock(strPath, lock);
     }
     /// The system lets go of a lock whose file stays, as it does when the holder dies.
     void ReleaseLock(const std::string& strPath, FileHandle lock) override {
@@ -126,11 +127,12 @@ public:
     }
 
 private:
-    bool Fails() {
+    bool Fails(bool blnTakesRoom = false) {
         const bool blnNow = ++intCalls_ == intBroken_;
         if (blnNow && fault_ == Fault::Kill && !blnFlushed_)
             Lose();
-        return fault_ == Fault::Error ? blnNow : fault_ == Fault::Kill && intCalls_ >= intBroken_;
+        const bool blnLasts = fault_ == Fault::Kill || (fault_ == Fault::Full && blnTakesRoom);
+        return fault_ == Fault::Error ? blnNow : blnLasts && intCalls_ >= intBroken_;
     }
 
     /// Half of the newest file never reaches the disk.
