@@ -21,11 +21,12 @@ void LoadMainWindow(Game& game) {
 
 void TellOfSettings(Game& game) {
     if (!game.settings.strUnread.empty())
-        game.desktop.Announce("Settings",
-                              game.settings.strUnread + std::string(strParagraphBreak) +
-                                  "The game goes on with its usual colours and view. Your own stay "
-                                  "in the file, and the next start tries again.",
-                              MessageIcon::Exclamation);
+        game.desktop.Announce(
+            "Settings",
+            game.settings.strUnread + std::string(strParagraphBreak) +
+                "The game goes on with its default colours and view. Your own stay "
+                "in the file, and the next start tries again.",
+            MessageIcon::Exclamation);
 }
 
 void UnloadMainWindow(const Game& game) {

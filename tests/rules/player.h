@@ -295,6 +295,7 @@ private:
         {"options", [this] { ShowOptions(game); }},
         {"apply", [this] { ApplyOptions(game, MakeOptions(Int())); }},
         {"load", [this] { LoadMainWindow(game); }},
+        {"tell", [this] { TellOfSettings(game); }},
         {"unload", [this] { UnloadMainWindow(game); }},
         // What happens next on the desktop.
         {"yes", [this] { desktop.answers.push_back(Answer::Yes); }},
