@@ -1,4 +1,5 @@
 #include <cstdint>
+#include <cstdlib>
 #include <random>
 
 #include <QApplication>
@@ -9,6 +10,7 @@
 #include "ui/desktop/look.h"
 #include "ui/desktop/text.h"
 #include "ui/desktop/version_info.h"
+#include "ui/main/font_check.h"
 #include "ui/main/start.h"
 
 namespace {
@@ -27,6 +29,10 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(cellora::GetProductName());
     QApplication::setQuitOnLastWindowClosed(false);
     cellora::ApplyLook();
+    if (!cellora::HasScalableFont()) {
+        cellora::TellOfMissingFont();
+        return EXIT_FAILURE;
+    }
     const std::string strExecutableFolder = cellora::ToPath(QApplication::applicationDirPath());
     cellora::Program program(
         [strExecutableFolder] {
