@@ -8,10 +8,10 @@
 #include "core/desktop.h"
 #include "ui/desktop/look.h"
 #include "ui/desktop/modCommon_Internet.h"
-#include "ui/desktop/pictures.h"
 #include "ui/desktop/system_info.h"
 #include "ui/desktop/version_info.h"
 #include "ui/dialogs/link_label.h"
+#include "ui/dialogs/picture_box.h"
 
 namespace cellora {
 
@@ -38,18 +38,19 @@ void frmAbout::MakePictures() {
     struct PictureRow {
         const char* strName;
         const char* strPicture;
+        PictureBox::Frame frame;
         QRect rectInTwips;
     };
+    // Of the frame round the larger one only the lower line lies in the window.
     static constexpr PictureRow aPictures[] = {
-        {"picIcon", "about", {0, 0, 5970, 2400}},
-        {"Picture1", "about_icon", {240, 2490, 480, 480}},
+        {"picIcon", "about", PictureBox::Frame::Line, {-30, -30, 6030, 2430}},
+        {"Picture1", "about_icon", PictureBox::Frame::None, {240, 2490, 480, 480}},
     };
     for (const PictureRow& row : aPictures) {
         const QRect& rect = row.rectInTwips;
-        QLabel* const picture = AddLabel(this, QLatin1String(row.strName), {}, rect.x(), rect.y(),
-                                         rect.width(), rect.height());
-        picture->setPixmap(
-            MakePixmap(QLatin1String(row.strPicture), picture->size(), devicePixelRatioF()));
+        auto* const picture = new PictureBox(QLatin1String(row.strPicture), row.frame, this);
+        picture->setObjectName(QLatin1String(row.strName));
+        Place(picture, rect.x(), rect.y(), rect.width(), rect.height());
     }
 }
 

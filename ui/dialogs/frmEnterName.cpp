@@ -14,14 +14,13 @@
 #include "rules/completion.h"
 #include "rules/hall_of_fame.h"
 #include "ui/desktop/look.h"
-#include "ui/desktop/pictures.h"
+#include "ui/dialogs/picture_box.h"
 
 namespace cellora {
 
 namespace {
 
 constexpr std::size_t intMaxNameLength = 40;
-constexpr int intMedalSize = 96;
 constexpr double dblTextLeft = 2040;
 constexpr double dblTextWidth = 5220;
 
@@ -80,10 +79,11 @@ void frmEnterName::ShowMedal() {
     if (intRank > LevelEntries::size())
         return; // another copy of the program took the last place meanwhile
     const QString strRank = QString::number(intRank);
-    QLabel* const picMedal = AddLabel(this, QStringLiteral("picMedal"), {}, 330, 360, 1440, 1440);
+    auto* const picMedal =
+        new PictureBox(QStringLiteral("medal_%1").arg(strRank), PictureBox::Frame::None, this);
+    picMedal->setObjectName(QStringLiteral("picMedal"));
     picMedal->setAccessibleName(QStringLiteral("Medal for rank %1").arg(strRank));
-    picMedal->setPixmap(MakePixmap(QStringLiteral("medal_%1").arg(strRank),
-                                   {intMedalSize, intMedalSize}, devicePixelRatioF()));
+    Place(picMedal, 330, 360, 1440, 1440);
 }
 
 void frmEnterName::MakeLabels() {

@@ -15,9 +15,9 @@
 #include "rules/start_up.h"
 #include "store/settings.h"
 #include "ui/desktop/look.h"
-#include "ui/desktop/pictures.h"
 #include "ui/desktop/version_info.h"
 #include "ui/dialogs/help_pages.h"
+#include "ui/dialogs/picture_box.h"
 
 namespace cellora {
 
@@ -70,9 +70,10 @@ void frmHelp::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmHelp::MakePicture() {
-    QLabel* const picture = AddLabel(this, QStringLiteral("Picture1"), {}, 120, 240, 1785, 3825);
-    picture->setPixmap(
-        MakePixmap(QStringLiteral("instructions"), picture->size(), devicePixelRatioF()));
+    auto* const picture =
+        new PictureBox(QStringLiteral("instructions"), PictureBox::Frame::Line, this);
+    picture->setObjectName(QStringLiteral("Picture1"));
+    Place(picture, 120, 240, 1785, 3825);
 }
 
 void frmHelp::MakeTabs() {

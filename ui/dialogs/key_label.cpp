@@ -64,9 +64,7 @@ void DrawCap(QPainter& painter, const QRectF& rect, const QPalette& palette) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(colorEdge);
     painter.drawRoundedRect(rect, dblCapRadius, dblCapRadius);
-    painter.setBrush(palette.color(QPalette::Window));
-    painter.drawRoundedRect(face, dblCapRadius, dblCapRadius);
-    DrawFrame(painter, face, colorEdge, 1, dblCapRadius);
+    DrawPlate(painter, face, palette.color(QPalette::Window), colorEdge, dblCapRadius);
 }
 
 void DrawMouse(QPainter& painter, const QRectF& rect, bool blnLeft, const QPalette& palette) {

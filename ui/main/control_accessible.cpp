@@ -4,6 +4,7 @@
 
 #include "ui/dialogs/help_pictures.h"
 #include "ui/dialogs/link_label.h"
+#include "ui/dialogs/picture_box.h"
 #include "ui/main/number_selector.h"
 #include "ui/main/statistics_pane.h"
 
@@ -33,16 +34,17 @@ private:
     LinkLabel& label_;
 };
 
+template <typename... Kinds>
+bool IsOneOf(QObject* object) {
+    return ((qobject_cast<Kinds*>(object) != nullptr) || ...);
+}
+
 QAccessibleInterface* MakeControl(const QString&, QObject* object) {
     if (auto* const label = qobject_cast<LinkLabel*>(object))
         return new AccessibleLink(*label);
-    const bool blnPicture = qobject_cast<BoardPicture*>(object) != nullptr ||
-                            qobject_cast<ButtonPicture*>(object) != nullptr;
-    if (blnPicture)
+    if (IsOneOf<BoardPicture, ButtonPicture, PictureBox>(object))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic);
-    const bool blnPane = qobject_cast<StatisticsPane*>(object) != nullptr ||
-                         qobject_cast<NumberSelector*>(object) != nullptr;
-    if (blnPane)
+    if (IsOneOf<StatisticsPane, NumberSelector>(object))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
     return nullptr;
 }
