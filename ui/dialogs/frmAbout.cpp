@@ -17,6 +17,8 @@ namespace cellora {
 
 namespace {
 
+constexpr int intRingRoom = 3; ///< between the mark of the keyboard round the link and its text
+
 /// Grey as the window's other quiet texts, dark enough to read.
 void MakeGrey(QLabel* label) {
     label->setForegroundRole(QPalette::Shadow);
@@ -44,7 +46,7 @@ void frmAbout::MakePictures() {
     // Of the frame round the larger one only the lower line lies in the window.
     static constexpr PictureRow aPictures[] = {
         {"picIcon", "about", PictureBox::Frame::Line, {-30, -30, 6030, 2430}},
-        {"Picture1", "about_icon", PictureBox::Frame::None, {240, 2490, 480, 480}},
+        {"Picture1", "about_icon", PictureBox::Frame::None, {270, 2430, 390, 390}},
     };
     for (const PictureRow& row : aPictures) {
         const QRect& rect = row.rectInTwips;
@@ -73,14 +75,16 @@ void frmAbout::MakeComments() {
     txtComments_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     txtComments_->setTabChangesFocus(true);
     txtComments_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    Place(txtComments_, 105, 390, 5520, 630);
+    Place(txtComments_, 105, 330, 5520, 660);
 }
 
 void frmAbout::MakeLink() {
-    AddLabel(this, QStringLiteral("Label1"), QStringLiteral("Brought to you by -"), 240, 4320,
-             2880);
+    QLabel* const lblBrought = AddLabel(this, QStringLiteral("Label1"),
+                                        QStringLiteral("Brought to you by -"), 240, 4320, 2880);
+    lblBrought->setContentsMargins(intRingRoom, 0, intRingRoom, 0);
     lblCompany_ = new LinkLabel(this);
     lblCompany_->setObjectName(QStringLiteral("lblCompany"));
+    lblCompany_->setContentsMargins(intRingRoom, 0, intRingRoom, 0);
     lblCompany_->setToolTip(QStringLiteral("Internet connection required..."));
     Place(lblCompany_, 240, 4560, 2880, 255);
     connect(lblCompany_, &LinkLabel::clicked, this,
@@ -115,6 +119,8 @@ void frmAbout::LoadAboutInfo() {
     lblVersion_->setText(QStringLiteral("Version ") + GetVersionText());
     txtComments_->setPlainText(QLatin1String(strComments));
     lblCompany_->setText(QLatin1String(strCompanyName));
+    // The blank beside the text is no link.
+    lblCompany_->resize(lblCompany_->sizeHint().width(), lblCompany_->height());
     fraComments_->setTitle(QStringLiteral("Information"));
     lblCopyright_->setText(QLatin1String(strLegalNotice));
 }
