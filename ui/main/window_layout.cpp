@@ -94,7 +94,10 @@ void WindowLayout::StateChanged() {
     blnRestoredBefore_ = true;
     // The window system may give state, size and place one after the other.
     QTimer::singleShot(intRestoringMilliseconds, &window_, [this] {
-        if (window_.pos() != positionAtStart_ || game_.blnFitWindow)
+        // Window systems take the place of a window for that of its frame, or for its own.
+        const bool blnMoved =
+            window_.pos() != positionAtStart_ && window_.geometry().topLeft() != positionAtStart_;
+        if (blnMoved || game_.blnFitWindow)
             return;
         window_.resize(window_.size().boundedTo(GetLargestSize()));
         CenterOnScreen(window_);
