@@ -105,6 +105,11 @@ constexpr Face aFaces[] = {
 
 ProgramStyle::ProgramStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+/// A theme without colours of its own takes these.
+QPalette ProgramStyle::standardPalette() const {
+    return MakePalette();
+}
+
 /// Called with the colours of the desktop's theme.
 void ProgramStyle::polish(QPalette& palette) {
     palette = MakePalette();

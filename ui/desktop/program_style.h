@@ -15,6 +15,7 @@ class ProgramStyle final : public QProxyStyle {
 public:
     ProgramStyle();
 
+    QPalette standardPalette() const override;
     using QProxyStyle::polish;
     void polish(QPalette& palette) override;
     void polish(QWidget* widget) override;
