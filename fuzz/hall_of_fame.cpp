@@ -1,78 +1,58 @@
-#include "rules/hall_of_fame.h"
+#include "fuzz/chance_player.h"
 
-#include <algorithm>
-#include <functional>
-#include <utility>
-
-#include "core/levels.h"
-#include "core/modCellora.h"
-#include "fuzz/fuzzing.h"
-#include "store/modCommon_File.h"
-#include "store/system_files.h"
-#include "tests/support/idle_desktop.h"
-#include "tests/support/temporary_folder.h"
-
-/// What the file of best times gives outlives an insert that writes it anew, entries in parts of a
-/// damaged file excepted. A
-/// file that was not in form is kept beside the new one, byte for byte; the new one is in form.
+/// The file of best times outlives a writing, entries in parts of a damaged one excepted, which is
+/// kept beside the new one, byte for byte and once. What is written is in form. Games are then
+/// played for places in it.
 namespace cellora {
 namespace {
 
-constexpr const char* strFileName = "hof.clh";
-constexpr const char* strDamagedName = "hof.clh.damaged";
-
-LevelEntries ReadLevel(const Game& game, int intLevel) {
-    LevelEntries entries;
-    ReadHallOfFame(game, intLevel, entries);
-    return entries;
-}
-
-/// Without a level nothing is inserted, but the file is read and written.
-void TryRewrite(Game& game, const TemporaryFolder& folder, std::string_view bytes) {
-    game.statistics.lblLevel.clear();
-    Require(!SaveHallOfFameEntry(game, "nobody"), "any file can be rewritten");
-    const std::string strWritten = folder.ReadBytes(strFileName);
-    const auto HasSameCount = [&](char character) {
-        return std::ranges::count(bytes, character) == std::ranges::count(strWritten, character);
-    };
-    if (FileExists(game.files, folder.Path(strDamagedName)))
-        Require(folder.ReadBytes(strDamagedName) == bytes, "a damaged file is kept as it was");
-    else
-        Require(HasSameCount('\n') && HasSameCount('"'), "a file that is not kept was in form");
+/// What is no file is left alone, and so are the times when no lock can be made.
+void TryObstacles(ChancePlayer& player) {
+    for (const char* const strName : {player.strTimes, "hof.clh.lock"}) {
+        player.files.Remove(player.folder.Path(strName));
+        player.folder.MakeFolder(strName);
+        const auto strReason = SaveHallOfFameEntry(*player.game, "A player");
+        Require(strReason && ResetHallOfFame(*player.game), "nothing is written past an obstacle");
+        ShowHallOfFameError(*player.game, *strReason);
+    }
 }
 
 } // namespace
 
 void TryInput(std::string_view bytes) {
-    static const TemporaryFolder folder;
-    folder.WriteBytes(strFileName, bytes);
-    // The levels and the time come from the input as well, without a place in the file for them.
-    const std::size_t lngChoice = std::hash<std::string_view>{}(bytes);
-    const int intWatched = static_cast<int>(lngChoice % intLevelCount) + 1;
-    const int intLevel = static_cast<int>((lngChoice >> (lngChoice >> 63U)) % intLevelCount) + 1;
-    IdleDesktop desktop;
-    SystemFiles files;
-    files.Remove(folder.Path(strDamagedName));
-    Game game(desktop, files);
-    game.strProgramFolder = folder.Path();
-    game.lngSeconds = static_cast<std::int32_t>(lngChoice >> 16U);
-    HallOfFameEntry moved{"A player", 0, 0, game.lngSeconds};
+    ChancePlayer player(bytes);
+    HallOfFame found;
+    HallOfFame written;
+    const bool blnInForm = ReadHallOfFameBytes(bytes, found);
+    player.folder.WriteBytes("hof.clh.damaged", "another");
+    player.Start();
+    for (int n = 0; n < 2; ++n) {
+        player.folder.WriteBytes(player.strTimes, bytes);
+        // Without a level nothing is inserted, but the file is read and written.
+        Require(!SaveHallOfFameEntry(*player.game, "nobody"), "any file can be rewritten");
+    }
+    const std::string strKept = player.folder.ReadBytes("hof.clh.damaged-2");
+    Require(ReadHallOfFameBytes(player.folder.ReadBytes(player.strTimes), written),
+            "what is written is in form");
+    Require(blnInForm ? std::ranges::equal(found, written) : strKept == bytes,
+            "what is in form stays, and what is not is kept");
+    Require(IsMissing(player.files, player.folder.Path("hof.clh.damaged-3")), "and kept once");
+    const int intHighest = GetHighestRecordedLevel(*player.game);
+    LevelEntries entries;
+    ReadHallOfFame(*player.game, intHighest, entries);
+    Require(intHighest == 0 || entries[1].strName != strNoName, "the highest level has an entry");
+    Require(FormatEntryTime(entries[1]).size() == 8, "a time has six digits");
 
-    const LevelEntries before = ReadLevel(game, intWatched);
-    TryRewrite(game, folder, bytes);
-    LevelEntries entries = ReadLevel(game, intWatched);
-    // Of a damaged file only whole entries are left.
-    Require(entries == before || FileExists(files, folder.Path(strDamagedName)),
-            "what is in form stays");
-    game.statistics.lblLevel = GetLevelName(intLevel);
-    if (intWatched == intLevel)
-        for (int i = GetRank(game); i <= LevelEntries::size(); ++i)
-            std::swap(entries[i], moved);
-    const std::ptrdiff_t intFiles = folder.Count();
-    Require(!SaveHallOfFameEntry(game, "A player"), "an entry can be inserted");
-    Require(folder.Count() == intFiles, "what the program writes is in form");
-    Require(ReadLevel(game, intWatched) == entries,
-            "the entry stands at its rank and every other reads back the same");
+    for (int n = player.Draw(3); n >= 0; --n) {
+        StartNewGame(*player.game, GetLevelName(intHighest == 0 ? 1 : intHighest));
+        player.game->lngSeconds = player.Draw(60);
+        player.FillBoard();
+    }
+    player.game->lngHours = 1'000'000;
+    player.game->statistics.lblLevel = "Level 2";
+    Require(!SaveHallOfFameEntry(*player.game, "A player"), "a time may come too late");
+    player.Play(5);
+    TryObstacles(player);
 }
 
 } // namespace cellora
