@@ -19,9 +19,10 @@ if(CELLORA_BUILD_FUZZ)
     if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
         message(FATAL_ERROR "The fuzzers need clang")
     endif()
-    # Tells the fuzzer which code an input reaches.
-    add_compile_options(-fsanitize=fuzzer-no-link)
-    add_link_options(-fsanitize=fuzzer-no-link)
+    # Tells the fuzzer which code an input reaches, and afterwards us.
+    set(coverage -fsanitize=fuzzer-no-link -fprofile-instr-generate -fcoverage-mapping)
+    add_compile_options(${coverage})
+    add_link_options(${coverage})
 endif()
 
 # cellora_add_floor(NAME FLOORS_BELOW...): the library cellora_NAME from the sources of this folder

@@ -2,7 +2,7 @@
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 fonts-liberation2)
 test_packages=(libgtest-dev xvfb xauth openbox x11-utils weston qt6-wayland)
-fuzz_packages=(clang libclang-rt-14-dev) # Debian 12 has clang 14
+fuzz_packages=(clang libclang-rt-14-dev llvm-14) # Debian 12 has clang 14
 
 # install_missing PACKAGE...: names what it installs; silent when nothing is missing.
 install_missing() {
