@@ -85,7 +85,7 @@ bool Recovery::Wait() {
 void Recovery::Do(BackgroundWriter::Write fnWrite) {
     // Before it waits for this one as well.
     blnHangs_ = blnHangs_ && !writer_.Wait({});
-    writer_.Do(std::move(fnWrite));
+    writer_.Do(place_->strFile, std::move(fnWrite));
 }
 
 std::string Recovery::GetFile(int intCopy) const {
@@ -113,7 +113,6 @@ bool Recovery::TakePlace() {
 
 /// The copy stays as it is, and this run goes on in another place.
 void Recovery::LeavePlace() {
-    Wait();
     place_ = nullptr;
     blnWritten_ = false;
 }

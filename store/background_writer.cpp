@@ -1,6 +1,7 @@
 #include "store/background_writer.h"
 
 #include <condition_variable>
+#include <deque>
 #include <mutex>
 #include <system_error>
 #include <thread>
@@ -11,11 +12,11 @@ namespace cellora {
 struct BackgroundWriter::Queue {
     std::mutex mutex; ///< for all that follows
     std::condition_variable changed;
-    Write fnNext;
+    std::deque<std::pair<std::string, Write>> waiting; ///< one for each file
     bool blnBusy = false;
     bool blnEnding = false;
 
-    bool IsDone() const { return !blnBusy && !fnNext; }
+    bool IsDone() const { return !blnBusy && waiting.empty(); }
 };
 
 BackgroundWriter::BackgroundWriter() = default;
@@ -24,7 +25,7 @@ BackgroundWriter::~BackgroundWriter() {
     if (queue_ == nullptr)
         return;
     const std::lock_guard lock(queue_->mutex);
-    queue_->fnNext = nullptr;
+    queue_->waiting.clear();
     queue_->blnEnding = true;
     queue_->changed.notify_all();
 }
@@ -42,11 +43,12 @@ bool BackgroundWriter::Start() {
     return true;
 }
 
-void BackgroundWriter::Do(Write fnWrite) {
+void BackgroundWriter::Do(const std::string& strFile, Write fnWrite) {
     if (!Start())
         return fnWrite();
     const std::lock_guard lock(queue_->mutex);
-    queue_->fnNext = std::move(fnWrite);
+    std::erase_if(queue_->waiting, [&](const auto& write) { return write.first == strFile; });
+    queue_->waiting.emplace_back(strFile, std::move(fnWrite));
     queue_->changed.notify_all();
 }
 
@@ -60,10 +62,11 @@ bool BackgroundWriter::Wait(std::chrono::milliseconds msLongest) {
 void BackgroundWriter::Run(Queue& queue) {
     std::unique_lock lock(queue.mutex);
     for (;;) {
-        queue.changed.wait(lock, [&] { return queue.fnNext || queue.blnEnding; });
+        queue.changed.wait(lock, [&] { return !queue.waiting.empty() || queue.blnEnding; });
         if (queue.blnEnding)
             return;
-        Write fnWrite = std::exchange(queue.fnNext, nullptr);
+        Write fnWrite = std::move(queue.waiting.front().second);
+        queue.waiting.pop_front();
         queue.blnBusy = true;
         lock.unlock();
         fnWrite();

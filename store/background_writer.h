@@ -3,11 +3,13 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <string>
 
 namespace cellora {
 
 /// Writes away from the caller's thread what its caller does not wait for, in the order given. What
-/// still waits behind a write under way gives its place to what comes next: the newest wins.
+/// still waits behind a write under way gives way to what comes next for the same file: the newest
+/// wins.
 class BackgroundWriter final {
 public:
     using Write = std::function<void()>;
@@ -20,7 +22,7 @@ public:
     BackgroundWriter& operator=(const BackgroundWriter&) = delete;
 
     /// Where the system has no thread left to give, the caller writes after all.
-    void Do(Write fnWrite);
+    void Do(const std::string& strFile, Write fnWrite);
 
     /// Waits until everything is written. False when that took longer.
     bool Wait(std::chrono::milliseconds msLongest);

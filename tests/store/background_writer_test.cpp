@@ -25,7 +25,7 @@ TEST(BackgroundWriter, WritesAtOnceWhereThereIsNoThread) {
         setrlimit(RLIMIT_AS, &limit);
         bool blnWritten = false;
         BackgroundWriter writer;
-        writer.Do([&] { blnWritten = true; });
+        writer.Do("game", [&] { blnWritten = true; });
         return writer.Wait(minutes(1)) && blnWritten;
     });
     EXPECT_EQ(child.End(0), 0);
@@ -39,21 +39,22 @@ TEST(BackgroundWriter, GoesOnWithTheNewestBehindAWriteThatHangs) {
     std::string strWritten;
     BackgroundWriter writer;
     EXPECT_TRUE(writer.Wait(minutes(1))) << "nothing was written yet";
-    writer.Do([&] {
+    writer.Do("game", [&] {
         begun.count_down();
         disk.wait();
         strWritten += '1';
     });
     begun.wait();
-    for (const char character : {'2', '3', '4'})
-        writer.Do([&strWritten, character] { strWritten += character; });
+    for (const char character : {'2', 'A', '3', '4'})
+        writer.Do(character == 'A' ? "other game" : "game",
+                  [&strWritten, character] { strWritten += character; });
     EXPECT_FALSE(writer.Wait({}));
     disk.count_down();
     EXPECT_TRUE(writer.Wait(minutes(1)));
-    EXPECT_EQ(strWritten, "14");
-    writer.Do([&] { strWritten += '5'; });
+    EXPECT_EQ(strWritten, "1A4");
+    writer.Do("game", [&] { strWritten += '5'; });
     EXPECT_TRUE(writer.Wait(minutes(1)));
-    EXPECT_EQ(strWritten, "145");
+    EXPECT_EQ(strWritten, "1A45");
 }
 
 } // namespace
