@@ -110,6 +110,12 @@ HANDLE Open(const std::wstring& strPath, DWORD lngAccess, DWORD lngShare, DWORD 
                        nullptr);
 }
 
+/// Whether the file is being removed: it is there as long as somebody else has it open.
+bool IsGoing(const std::wstring& strPath) {
+    return GetFileAttributesW(strPath.c_str()) == INVALID_FILE_ATTRIBUTES &&
+           GetLastError() == ERROR_ACCESS_DENIED;
+}
+
 /// Who looks for viruses or names for a search opens new files for a moment.
 template <typename Call>
 DWORD Insist(Call fnCall) {
@@ -299,13 +305,15 @@ std::error_code SystemFiles::ListFolder(const std::string& strPath,
 std::error_code SystemFiles::TakeLock(const std::string& strPath, FileHandle& lock) {
     // Who has opened a file that is shared with nobody holds the lock; the system removes the file
     // with the last of its handles, at the latest when the holder dies.
-    const HANDLE handle = Open(ToPath(strPath), GENERIC_READ | GENERIC_WRITE | DELETE, 0,
-                               OPEN_ALWAYS, FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE);
+    const std::wstring strWide = ToPath(strPath);
+    const HANDLE handle = Open(strWide, GENERIC_READ | GENERIC_WRITE | DELETE, 0, OPEN_ALWAYS,
+                               FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE);
     if (handle == INVALID_HANDLE_VALUE) {
         const DWORD lngCode = GetLastError();
-        return lngCode == ERROR_SHARING_VIOLATION
-                   ? std::make_error_code(std::errc::resource_unavailable_try_again)
-                   : ToError(lngCode);
+        const bool blnHeld = lngCode == ERROR_SHARING_VIOLATION ||
+                             (lngCode == ERROR_ACCESS_DENIED && IsGoing(strWide));
+        return blnHeld ? std::make_error_code(std::errc::resource_unavailable_try_again)
+                       : ToError(lngCode);
     }
     lock = FromHandle(handle);
     return {};
