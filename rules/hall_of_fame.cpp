@@ -53,17 +53,9 @@ Rewriting ReadForRewriting(FilePort& files, const std::string& strFile, HallOfFa
     return KeepDamagedFile(files, strFile, file.bytes);
 }
 
-/// Replaces the file by what `fnEdit` makes of it, all inside the lock.
+/// Replaces the file by what `fnEdit` makes of it.
 template <typename Edit>
-Rewriting RewriteHallOfFame(const Game& game, Edit fnEdit) {
-    const std::string strFile = GetFilePath(game);
-    FileLock lock(game.files, strFile);
-    const LockOutcome outcome = lock.TryLock(msLockTimeout);
-    if (outcome == LockOutcome::HeldElsewhere)
-        return {"Another copy of the program is using the file \"hof.clh\"."};
-    // On a disk that knows no locks an entry is worth more than the rare moment of two writers.
-    if (outcome == LockOutcome::Failed)
-        return {"The folder of the file \"hof.clh\" cannot be written, or its disk is full."};
+Rewriting EditHallOfFame(const Game& game, const std::string& strFile, Edit fnEdit) {
     HallOfFame hallOfFame;
     Rewriting rewriting = ReadForRewriting(game.files, strFile, hallOfFame);
     if (rewriting.strReason)
@@ -73,11 +65,25 @@ Rewriting RewriteHallOfFame(const Game& game, Edit fnEdit) {
     return rewriting;
 }
 
+/// Runs `fnRewrite` with the file's path inside the lock.
+template <typename Rewrite>
+Rewriting RewriteLocked(const Game& game, Rewrite fnRewrite) {
+    const std::string strFile = GetFilePath(game);
+    FileLock lock(game.files, strFile);
+    const LockOutcome outcome = lock.TryLock(msLockTimeout);
+    if (outcome == LockOutcome::HeldElsewhere)
+        return {"Another copy of the program is using the file \"hof.clh\"."};
+    // On a disk that knows no locks an entry is worth more than the rare moment of two writers.
+    if (outcome == LockOutcome::Failed)
+        return {"The folder of the file \"hof.clh\" cannot be written, or its disk is full."};
+    return fnRewrite(strFile);
+}
+
 /// The same, with the hourglass meanwhile: another copy may hold the lock for a moment.
-template <typename Edit>
-std::optional<std::string> RewriteUnderHourglass(const Game& game, Edit fnEdit) {
+template <typename Rewrite>
+std::optional<std::string> RewriteUnderHourglass(const Game& game, Rewrite fnRewrite) {
     game.desktop.SetMousePointer(MousePointer::Hourglass);
-    const Rewriting rewriting = RewriteHallOfFame(game, fnEdit);
+    const Rewriting rewriting = RewriteLocked(game, fnRewrite);
     game.desktop.SetMousePointer(MousePointer::Default);
     if (!rewriting.strKept.empty() && !rewriting.strReason)
         game.desktop.Announce(strBoxTitle,
@@ -130,7 +136,7 @@ std::int16_t GetRank(const Game& game, const LevelEntries& entries) {
 
 std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::string& strName) {
     bool blnPlaceTaken = false;
-    auto strReason = RewriteUnderHourglass(game, [&](HallOfFame& hallOfFame) {
+    const auto InsertGame = [&](HallOfFame& hallOfFame) {
         const int intLevel = GetCurrentLevel(game);
         if (intLevel < 1 || intLevel > intLevelCount)
             return;
@@ -138,6 +144,9 @@ std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::stri
         const std::int16_t intRank = GetRank(game, entries);
         blnPlaceTaken = intRank == intNoRank;
         InsertEntry(entries, intRank, {strName, game.lngHours, game.lngMinutes, game.lngSeconds});
+    };
+    auto strReason = RewriteUnderHourglass(game, [&](const std::string& strFile) {
+        return EditHallOfFame(game, strFile, InsertGame);
     });
     if (blnPlaceTaken && !strReason)
         TellPlaceWasTaken(game);
@@ -145,8 +154,9 @@ std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::stri
 }
 
 std::optional<std::string> ResetHallOfFame(const Game& game) {
-    return RewriteUnderHourglass(
-        game, [](HallOfFame& hallOfFame) { hallOfFame = MakeEmptyHallOfFame(); });
+    return RewriteUnderHourglass(game, [&](const std::string& strFile) {
+        return Rewriting{ReplaceFile(game.files, strFile, FormatHallOfFame(MakeEmptyHallOfFame()))};
+    });
 }
 
 std::int16_t GetHighestRecordedLevel(const Game& game) {

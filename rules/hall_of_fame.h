@@ -39,7 +39,8 @@ std::int16_t GetRank(const Game& game, const LevelEntries& entries);
 /// no double quote and no line break.
 std::optional<std::string> SaveHallOfFameEntry(const Game& game, const std::string& strName);
 
-/// Rewrites the file with empty entries only; results as above.
+/// Replaces the file by one with empty entries only, whatever it holds, be it damaged or not to be
+/// read; results as above.
 std::optional<std::string> ResetHallOfFame(const Game& game);
 
 /// The highest level whose first entry is not empty; 0 when there is none. Without a file no entry

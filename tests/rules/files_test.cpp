@@ -55,7 +55,7 @@ TEST(HallOfFame, KeepsADamagedFileOnceThoughItCannotBeReplaced) {
     game.strProgramFolder = player.folder.Path();
     player.folder.WriteBytes("hof.clh", "damaged");
     for (int n = 0; n < 3; ++n)
-        EXPECT_TRUE(ResetHallOfFame(game));
+        EXPECT_TRUE(SaveHallOfFameEntry(game, "Anna"));
     EXPECT_EQ(player.folder.ReadBytes("hof.clh") + player.folder.ReadBytes("hof.clh.damaged"),
               "damageddamaged");
     EXPECT_EQ(player.folder.Count(), 2);
