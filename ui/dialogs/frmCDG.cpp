@@ -15,7 +15,10 @@ namespace {
 bool ShowCentered(QDialog& cdg) {
     cdg.adjustSize();
     CenterOnScreen(cdg);
-    return cdg.exec() == QDialog::Accepted;
+    const bool blnAccepted = cdg.exec() == QDialog::Accepted;
+    if (QWidget* const owner = cdg.parentWidget())
+        owner->activateWindow(); // a window manager may give the keyboard to nobody
+    return blnAccepted;
 }
 
 /// The toolkit hides the number of copies below a button beside "Print" and "Cancel".
