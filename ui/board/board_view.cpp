@@ -7,6 +7,7 @@
 
 #include "rules/view.h"
 #include "ui/board/board_scene.h"
+#include "ui/desktop/echo.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/pictures.h"
 #include "ui/desktop/twips.h"
@@ -85,10 +86,12 @@ void BoardView::mouseDoubleClickEvent(QMouseEvent* event) {
 void BoardView::mouseReleaseEvent(QMouseEvent* event) {
     constexpr Qt::MouseButtons buttons = Qt::LeftButton | Qt::RightButton | Qt::MiddleButton;
     const int intCell = GetCellAt(event->position().toPoint());
+    if (!buttons.testFlag(event->button()) || intCell == 0)
+        return;
+    const MouseEcho echo(*event); // the last digit of a game opens a window
     // The toolkit numbers these three as the rules do.
-    if (buttons.testFlag(event->button()) && intCell != 0)
-        emit cellReleased(intCell, static_cast<MouseButton>(event->button()),
-                          event->globalPosition().toPoint());
+    emit cellReleased(intCell, static_cast<MouseButton>(event->button()),
+                      event->globalPosition().toPoint());
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {

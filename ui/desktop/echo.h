@@ -3,6 +3,7 @@
 #include <QObject>
 
 class QKeyEvent;
+class QMouseEvent;
 
 namespace cellora {
 
@@ -25,6 +26,21 @@ private:
     quint64 lngPressed_; ///< when last, in milliseconds
     quint64 lngReleased_ = 0;
     bool blnOver_ = false; ///< it was pressed anew
+};
+
+/// While a click's command runs, keeps the second click of a double click out of the modal windows
+/// that the command opens, perhaps with a button in the click's very place.
+class MouseEcho final : public QObject {
+public:
+    /// Of the click whose command is about to run.
+    explicit MouseEcho(const QMouseEvent& release);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    Qt::MouseButton button_;
+    quint64 lngReleased_; ///< in milliseconds
 };
 
 } // namespace cellora
