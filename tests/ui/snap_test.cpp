@@ -85,9 +85,11 @@ TEST(Snap, FramesFacesAndRingsKeepFourEvenSidesAtEveryScale) {
     for (const auto edge : {QPalette::Mid, QPalette::Dark})
         option.palette.setColor(edge, Qt::black);
     for (const auto& row : aScales) {
-        ExpectSides(row.dblScale, row.strFrame, [](QPainter& painter, const QRectF& rect) {
+        const auto fnFrame = [](QPainter& painter, const QRectF& rect) {
             DrawFrame(painter, rect, Qt::black);
-        });
+        };
+        ExpectSides(row.dblScale, row.strFrame, fnFrame);
+        EXPECT_EQ(Show({row.dblScale, 0, 16}, true, fnFrame).pixelColor(0, 0), Qt::black);
         for (const auto face : {QStyle::PE_PanelButtonCommand, QStyle::PE_IndicatorCheckBox,
                                 QStyle::PE_FrameLineEdit, QStyle::PE_FrameTabWidget})
             ExpectSides(row.dblScale, row.strFrame, [&](QPainter& painter, const QRectF& rect) {

@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPen>
 
 #include "ui/desktop/pictures.h"
@@ -36,6 +37,18 @@ double CountPixels(const QPainter& painter, double dblWidth) {
     return std::max(1.0, std::round(dblWidth * painter.deviceTransform().m11() - dblTolerance));
 }
 
+/// A pen that smooths would leave the corners pale.
+void FillOutlined(QPainter& painter, const QRect& outer, const QBrush& fill, const QColor& color,
+                  int intPixels) {
+    const QRect inner = outer.adjusted(intPixels, intPixels, -intPixels, -intPixels);
+    QPainterPath frame;
+    frame.addRect(outer);
+    frame.addRect(inner);
+    if (fill != Qt::NoBrush)
+        painter.fillRect(inner, fill);
+    painter.fillPath(frame, color);
+}
+
 /// A line of whole device pixels along the inner edge, round a fill.
 void DrawOutlined(QPainter& painter, const QRectF& rect, const QBrush& fill, const QColor& color,
                   double dblWidth, double dblRadius) {
@@ -43,14 +56,18 @@ void DrawOutlined(QPainter& painter, const QRectF& rect, const QBrush& fill, con
     const double dblPixels = CountPixels(painter, dblWidth);
     const double dblInset = dblPixels / 2;
     const double dblDeviceRadius = dblRadius * toDevice.m11();
-    const QRectF outer(GetDeviceRect(painter, rect));
+    const QRect outer = GetDeviceRect(painter, rect);
     painter.save();
     painter.setTransform(toDevice.inverted(), true);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, dblPixels, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.setBrush(fill);
-    painter.drawRoundedRect(outer.adjusted(dblInset, dblInset, -dblInset, -dblInset),
-                            dblDeviceRadius, dblDeviceRadius);
+    if (dblRadius == 0) {
+        FillOutlined(painter, outer, fill, color, static_cast<int>(dblPixels));
+    } else {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(color, dblPixels, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setBrush(fill);
+        painter.drawRoundedRect(QRectF(outer).adjusted(dblInset, dblInset, -dblInset, -dblInset),
+                                dblDeviceRadius, dblDeviceRadius);
+    }
     painter.restore();
 }
 
