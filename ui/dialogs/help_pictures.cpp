@@ -29,20 +29,20 @@ constexpr double dblItemRoom = 5 * intTwipsPerPixel;
 
 struct ExampleCell {
     int intCell;
-    const char* strSolution;
     bool blnGiven = false;
+    const char* strSolution = "";
     const char* strEntry = "";
     const char* strNotes = "";
 };
 
 /// The middle region, and the middle cells of two others: their lines are thin on every side.
 constexpr ExampleCell aExample[] = {
-    {.intCell = 31, .strSolution = "5", .blnGiven = true},
+    {.intCell = 31, .blnGiven = true, .strSolution = "5"},
     {.intCell = 32, .strSolution = "3", .strEntry = "3"},
     {.intCell = 33, .strSolution = "8", .strNotes = "4 8 "},
-    {.intCell = 41, .strSolution = "9", .blnGiven = true},
-    {.intCell = 42, .strSolution = "6", .blnGiven = true},
-    {.intCell = 49, .strSolution = "7", .blnGiven = true},
+    {.intCell = 41, .blnGiven = true, .strSolution = "9"},
+    {.intCell = 42, .blnGiven = true, .strSolution = "6"},
+    {.intCell = 49, .blnGiven = true, .strSolution = "7"},
     {.intCell = 51, .strSolution = "1", .strEntry = "1"},
     {.intCell = 14, .strSolution = "2", .strNotes = "2 5 7 "},
     {.intCell = 38, .strSolution = "4", .strEntry = "8"},
