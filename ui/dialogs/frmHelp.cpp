@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QTabWidget>
 
 #include "core/modCellora.h"
@@ -57,7 +56,12 @@ void frmHelp::done(int intResult) {
 
 void frmHelp::keyPressEvent(QKeyEvent* event) {
     QScrollBar* const bar = static_cast<QScrollArea*>(tab_->currentWidget())->verticalScrollBar();
+    const bool blnShift = event->modifiers().testFlag(Qt::ShiftModifier);
     switch (event->key()) {
+    case Qt::Key_Tab: // without Ctrl it has moved the keyboard
+    case Qt::Key_Backtab:
+        TurnPages(blnShift ? -1 : 1);
+        break;
     case Qt::Key_PageDown:
         bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
         break;
@@ -85,11 +89,6 @@ void frmHelp::MakeTabs() {
     tab_->addTab(MakeControlsPage(game()), QStringLiteral("Controls"));
     tab_->addTab(MakeMenusPage(game()), QStringLiteral("Menus"));
     tab_->addTab(MakeHistoryPage(), QStringLiteral("History"));
-    // The tab control itself hears these keys only while the keyboard is in it.
-    connect(new QShortcut(QKeySequence::NextChild, this), &QShortcut::activated, this,
-            [this] { TurnPages(1); });
-    connect(new QShortcut(QKeySequence::PreviousChild, this), &QShortcut::activated, this,
-            [this] { TurnPages(-1); });
 }
 
 void frmHelp::TurnPages(int intPages) {

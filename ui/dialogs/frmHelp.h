@@ -21,7 +21,8 @@ public:
     void done(int intResult) override;
 
 protected:
-    /// A page that is longer than its place scrolls by page keys, wherever the keyboard is.
+    /// Wherever the keyboard is, Ctrl+Tab and Ctrl+Shift+Tab turn the pages, and page keys scroll
+    /// one that is longer than its place.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
