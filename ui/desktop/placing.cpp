@@ -12,11 +12,13 @@ namespace {
 
 /// Until a window is shown its frame is expected to be that of the window it belongs to.
 QMargins GetFrame(const QWidget& window) {
-    const QWindow* const handle = window.windowHandle();
-    const QMargins frame = handle != nullptr ? handle->frameMargins() : QMargins();
-    return frame.isNull() && window.parentWidget() != nullptr
-               ? GetFrame(*window.parentWidget()->window())
-               : frame;
+    QMargins frame;
+    for (const QWidget* widget = &window; frame.isNull() && widget != nullptr;
+         widget = widget->parentWidget()) {
+        if (const QWindow* const handle = widget->windowHandle())
+            frame = handle->frameMargins();
+    }
+    return frame;
 }
 
 } // namespace
