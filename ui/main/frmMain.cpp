@@ -191,8 +191,8 @@ void frmMain::ConnectDesktop() {
 void frmMain::OnTick(Timer timer) {
     switch (timer) {
     case Timer::tmr:
-        recovery_.CountTick(game_);
-        return Do(tmr_Timer);
+        Do(tmr_Timer);
+        return recovery_.CountTick(game_);
     case Timer::tmrCellWait:
         return Do(tmrCellWait_Timer);
     case Timer::tmrCell:
