@@ -65,6 +65,8 @@ frmMain::frmMain(Game& game, QtDesktop& desktop, Recovery& recovery)
 
 frmMain::~frmMain() {
     desktop_.Detach();
+    // The window loses the keyboard when this part of it is gone already.
+    disconnect(qApp, nullptr, this, nullptr);
     // The view goes before the scene it shows.
     delete picGrid_;
 }
