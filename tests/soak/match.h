@@ -13,7 +13,7 @@
 namespace cellora {
 
 inline constexpr const char* strColors =
-    "colours: 16777215 14674156 16777215 14674156 14545143 6509899 0 0 0; "
+    "colours: 16777215 14674156 16777215 14674156 14545143 3944482 0 0 0; "
     "3154975 given, 10702622 entered, 10702622 noted";
 
 inline const char* If(bool blnHolds, const char* strNames) {
@@ -77,7 +77,7 @@ inline model::Lines Describe(const model::Model& model) {
             model.intOutlined != 0 && (model.intWidth != 1 || model.blnCursorColor);
         lines.push_back(Text("outlines:",
                              blnOutlined ? Text(' ', model.intOutlined, '/', model.intWidth, '/',
-                                                model.blnCursorColor ? 7239183 : 6509899)
+                                                model.blnCursorColor ? 7239183 : 3944482)
                                          : "",
                              ", top ", model.intOutlined, ", cursor ", model.intCursor,
                              ", pointer ", model.intPointer));
