@@ -1,5 +1,4 @@
 #include <cstdint>
-#include <cstdlib>
 #include <random>
 
 #include <QApplication>
@@ -10,7 +9,6 @@
 #include "ui/desktop/look.h"
 #include "ui/desktop/text.h"
 #include "ui/desktop/version_info.h"
-#include "ui/main/font_check.h"
 #include "ui/main/start.h"
 
 namespace {
@@ -29,10 +27,6 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(cellora::GetProductName());
     QApplication::setQuitOnLastWindowClosed(false);
     cellora::ApplyLook();
-    if (!cellora::HasScalableFont()) {
-        cellora::TellOfMissingFont();
-        return EXIT_FAILURE;
-    }
     const std::string strExecutableFolder = cellora::ToPath(QApplication::applicationDirPath());
     cellora::Program program(
         [strExecutableFolder] {

@@ -70,9 +70,12 @@ void frmSplash::ShowLabels() {
 }
 
 void frmSplash::tmrSplash_Timer() {
-    steps_.fnLoad();
-    if (!tmrSplash2_.isActive())
+    if (!steps_.fnLoad()) {
+        tmrSplash_.stop();
+        close();
+    } else if (!tmrSplash2_.isActive()) {
         tmrSplash2_.start();
+    }
 }
 
 void frmSplash::tmrSplash2_Timer() {

@@ -17,7 +17,7 @@ public:
     /// yet, disables it and shows it; `fnEnable` enables it; `fnStart` follows when the splash has
     /// closed, and may show modal windows.
     struct Steps {
-        std::function<void()> fnLoad;
+        std::function<bool()> fnLoad; ///< false: there is nothing to go on with, the splash closes
         std::function<void()> fnEnable;
         std::function<void()> fnStart;
     };

@@ -1,10 +1,13 @@
 #include "ui/main/start.h"
 
 #include <array>
+#include <cstdlib>
 #include <utility>
 
+#include <QApplication>
 #include <QFile>
 #include <QSettings>
+#include <QTimer>
 
 #include "core/desktop.h"
 #include "core/modCellora.h"
@@ -18,6 +21,7 @@
 #include "ui/desktop/text.h"
 #include "ui/dialogs/frmSplash.h"
 #include "ui/main/control_accessible.h"
+#include "ui/main/font_check.h"
 #include "ui/main/frmMain.h"
 #include "ui/main/window_layout.h"
 
@@ -58,14 +62,22 @@ Program::~Program() = default;
 
 void Program::Main() {
     splash_ =
-        std::make_unique<frmSplash>(frmSplash::Steps{.fnLoad = [this] { LoadMain(); },
+        std::make_unique<frmSplash>(frmSplash::Steps{.fnLoad = [this] { return LoadMain(); },
                                                      .fnEnable = [this] { main_->TakeInput(true); },
                                                      .fnStart = [this] { StartMain(); }});
     splash_->show();
 }
 
-void Program::LoadMain() {
+bool Program::LoadMain() {
     if (main_ == nullptr) {
+        // Not before the splash is seen: loading the first font takes longer than its picture.
+        if (!HasScalableFont()) {
+            QTimer::singleShot(0, [] {
+                TellOfMissingFont();
+                QApplication::exit(EXIT_FAILURE);
+            });
+            return false;
+        }
         game_->strProgramFolder = fnFindFolder_();
         PlaceFiles(game_->files, game_->strProgramFolder);
         // What the toolkit's own dialogs remember belongs there as well.
@@ -81,6 +93,7 @@ void Program::LoadMain() {
         main_->windowLayout().ShowAtStart();
         splash_->raise();
     }
+    return true;
 }
 
 void Program::StartMain() {

@@ -32,7 +32,7 @@ public:
     Recovery* recovery() { return recovery_.get(); } ///< null until then
 
 private:
-    void LoadMain();
+    bool LoadMain();
     void StartMain();
 
     std::unique_ptr<QtDesktop> desktop_;
