@@ -199,6 +199,8 @@ protected:
             ExpectLines(ListTopTen(window), {}, "Top Ten");
         }
         ExpectScores();
+        if (scores.levels.at(1).front().strName == "(none)")
+            FillScores();
     }
 
     /// Which of the empty cells it is, is chance.

@@ -151,7 +151,11 @@ protected:
     Match(RunningProgram& run, std::uint64_t lngSeed) : run_(run), random_(lngSeed) {
         run_.WriteSettings({QStringLiteral("cursor=1")});
         run_.folder.MakeFolder("games");
-        // Half of the lists are full.
+        FillScores();
+    }
+
+    /// Half of the lists are full.
+    void FillScores() {
         for (int intLevel = 1; intLevel <= 30; ++intLevel)
             for (int intScores = std::min(Draw(1, 20), 10); intScores > 0; --intScores)
                 model_.scores.Insert(

@@ -64,8 +64,8 @@ private:
             {"solve one cell", 20, &RandomPlayer::SolveOneCell},
             {"save", 20, &RandomPlayer::Save},
             {"open", 12, &RandomPlayer::Open},
-            {"leave the program", 8, &RandomPlayer::Leave},
-            {"kill the program", 12, &RandomPlayer::Kill},
+            {"leave the program", 3, &RandomPlayer::Leave},
+            {"kill the program", 10, &RandomPlayer::Kill},
         };
         static constexpr Move other = {"press a key", 0, &RandomPlayer::PressKey};
         int intDrawn = Draw(1, 1000);
