@@ -14,6 +14,7 @@
 #include "store/replace_file.h"
 #include "store/system_files.h"
 #include "tests/support/child_process.h"
+#include "tests/support/faulty_files.h"
 #include "tests/support/temporary_folder.h"
 
 namespace cellora {
@@ -42,7 +43,9 @@ TEST_F(Files, AreToldFromFoldersAndNothing) {
 
 TEST_F(Files, ThatCannotBeExaminedAreNotMissing) {
     EXPECT_TRUE(IsMissing(files, folder.Path("missing")) && !IsMissing(files, strFile));
-    EXPECT_FALSE(IsMissing(files, folder.Path(std::string(5000, 'x'))));
+    FaultyFiles faulty;
+    faulty.Break(FaultyFiles::Fault::Error, 1, std::errc::io_error);
+    EXPECT_FALSE(IsMissing(faulty, folder.Path("missing")));
 }
 
 TEST_F(Files, LieInTheFolderBeforeTheLastSeparator) {
