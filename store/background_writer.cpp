@@ -4,7 +4,6 @@
 #include <deque>
 #include <mutex>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 namespace cellora {
@@ -24,10 +23,16 @@ BackgroundWriter::BackgroundWriter() = default;
 BackgroundWriter::~BackgroundWriter() {
     if (queue_ == nullptr)
         return;
-    const std::lock_guard lock(queue_->mutex);
+    std::unique_lock lock(queue_->mutex);
     queue_->waiting.clear();
     queue_->blnEnding = true;
     queue_->changed.notify_all();
+    const bool blnBusy = queue_->blnBusy;
+    lock.unlock();
+    if (blnBusy)
+        thread_.detach();
+    else
+        thread_.join(); // a process that ends in the middle of a thread's end may hang on Windows
 }
 
 bool BackgroundWriter::Start() {
@@ -35,7 +40,7 @@ bool BackgroundWriter::Start() {
         return true;
     const auto queue = std::make_shared<Queue>();
     try {
-        std::thread([queue] { Run(*queue); }).detach();
+        thread_ = std::thread([queue] { Run(*queue); });
     } catch (const std::system_error&) {
         return false;
     }

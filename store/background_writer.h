@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <thread>
 
 namespace cellora {
 
@@ -33,6 +34,7 @@ private:
     bool Start();
 
     std::shared_ptr<Queue> queue_; ///< null before the first write: most runs need no thread
+    std::thread thread_;
 };
 
 } // namespace cellora
