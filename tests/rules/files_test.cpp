@@ -4,7 +4,7 @@
 
 #include <chrono>
 #include <filesystem>
-#include <latch>
+#include <future>
 #include <memory>
 #include <set>
 #include <thread>
@@ -88,11 +88,14 @@ TEST(Recovery, KeepsTheGamesOfNineCopies) {
 class StuckFiles final : public SystemFiles {
 public:
     std::error_code Flush(FileHandle file) override {
-        disk.wait();
+        free_.wait();
         return SystemFiles::Flush(file);
     }
 
-    std::latch disk{1};
+    std::promise<void> disk;
+
+private:
+    std::shared_future<void> free_{disk.get_future()};
 };
 
 TEST(Recovery, LetsThePlayerGoOnWhileTheDiskHangs) {
@@ -104,7 +107,7 @@ TEST(Recovery, LetsThePlayerGoOnWhileTheDiskHangs) {
         player.Play(strMove);
         recovery.tmrRecovery_Timer(player.game);
     }
-    files.disk.count_down();
+    files.disk.set_value();
     EXPECT_TRUE(recovery.Wait());
     const auto copy = ParseRecoveryCopy(player.folder.ReadBytes(".recovery/copy-1"));
     ASSERT_TRUE(copy);
@@ -125,7 +128,7 @@ TEST(Recovery, WaitsOnceForADiskThatHangs) {
     recovery.End(player.game);
     EXPECT_FALSE(recovery.Wait());
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(3500));
-    files.disk.count_down();
+    files.disk.set_value();
     while (!recovery.Wait())
         std::this_thread::yield();
 }

@@ -1,7 +1,7 @@
 #include "store/background_writer.h"
 
 #include <fstream>
-#include <latch>
+#include <future>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -34,22 +34,22 @@ TEST(BackgroundWriter, WritesAtOnceWhereThereIsNoThread) {
 #endif
 
 TEST(BackgroundWriter, GoesOnWithTheNewestBehindAWriteThatHangs) {
-    std::latch begun(1);
-    std::latch disk(1);
+    std::promise<void> begun;
+    std::promise<void> disk;
     std::string strWritten;
     BackgroundWriter writer;
     EXPECT_TRUE(writer.Wait(minutes(1))) << "nothing was written yet";
     writer.Do("game", [&] {
-        begun.count_down();
-        disk.wait();
+        begun.set_value();
+        disk.get_future().wait();
         strWritten += '1';
     });
-    begun.wait();
+    begun.get_future().wait();
     for (const char character : {'2', 'A', '3', '4'})
         writer.Do(character == 'A' ? "other game" : "game",
                   [&strWritten, character] { strWritten += character; });
     EXPECT_FALSE(writer.Wait({}));
-    disk.count_down();
+    disk.set_value();
     EXPECT_TRUE(writer.Wait(minutes(1)));
     EXPECT_EQ(strWritten, "1A4");
     writer.Do("game", [&] { strWritten += '5'; });
