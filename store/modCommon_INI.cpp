@@ -146,12 +146,11 @@ bool IsWritable(const INIValue& value) {
 }
 
 std::string SetValue(std::string_view strText, const INIValue& value) {
-    const auto& [strSection, strKey, strValue] = value;
     std::string strResult(SplitByteOrderMark(strText));
-    const Place place = FindPlace(strText, strSection, strKey);
+    const Place place = FindPlace(strText, value.strSection, value.strKey);
     if (place.blnKeyFound) {
         strResult.append(strText.substr(0, place.lngValueBegin));
-        strResult.append(GetStoredForm(strValue));
+        strResult.append(GetStoredForm(value.strValue));
         return strResult.append(strText.substr(place.lngValueEnd));
     }
     const std::string_view strFirstEnd = GetLineEnd(strText, FindLineEnd(strText, 0));
@@ -160,8 +159,8 @@ std::string SetValue(std::string_view strText, const INIValue& value) {
     if (place.lngInsertAt > 0 && !IsLineEnd(strText[place.lngInsertAt - 1]))
         strResult.append(strLineEnd);
     if (!place.blnSectionFound)
-        strResult.append("[" + strSection + "]" + strLineEnd);
-    strResult.append(strKey + "=" + GetStoredForm(strValue) + strLineEnd);
+        strResult.append("[" + value.strSection + "]" + strLineEnd);
+    strResult.append(value.strKey + "=" + GetStoredForm(value.strValue) + strLineEnd);
     return strResult.append(strText.substr(place.lngInsertAt));
 }
 
@@ -192,9 +191,12 @@ void WriteINI(FilePort& files, std::span<const INIValue> values, const std::stri
     if (file.outcome == ReadOutcome::Failed)
         return;
     std::string strText = file.bytes;
-    for (const INIValue& value : values)
-        if (IsWritable(value))
+    for (const INIValue& value : values) {
+        const bool blnSpared =
+            value.blnSpared && FindINI(file.bytes, value.strSection, value.strKey).empty();
+        if (IsWritable(value) && !blnSpared)
             strText = SetValue(strText, value);
+    }
     if (strText != file.bytes && strText.size() <= lngMaxINIBytes)
         ReplaceFile(files, strPath, strText);
 }

@@ -46,6 +46,7 @@ struct INIValue {
     std::string strSection;
     std::string strKey;
     std::string strValue;
+    bool blnSpared = false; ///< only replaces a value, and adds none
 };
 
 /// Stores several values, in their order, by one replacement of the file. A text that could not be

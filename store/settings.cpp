@@ -145,19 +145,16 @@ Settings LoadSettings(FilePort& files, const std::string& strPath) {
 
 void SaveSettings(FilePort& files, const Settings& settings, SettingsGroup group,
                   const std::string& strPath) {
-    const ReadResult file = ReadWholeFile(files, strPath, lngMaxINIBytes);
-    if (!settings.strUnread.empty() || file.outcome == ReadOutcome::Failed)
+    if (!settings.strUnread.empty())
         return;
     std::vector<INIValue> values;
     for (const Row& row : aRows) {
         if (row.group != group)
             continue;
         const std::string strValue = FormatRow(row, settings);
-        const bool blnSpared = row.member == Member(&Settings::intZoom) &&
-                               strValue == FormatRow(row, {}) &&
-                               FindINI(file.bytes, row.strSection, row.strKey).empty();
-        if (!blnSpared)
-            values.push_back({row.strSection, row.strKey, strValue});
+        const bool blnSpared =
+            row.member == Member(&Settings::intZoom) && strValue == FormatRow(row, {});
+        values.push_back({row.strSection, row.strKey, strValue, blnSpared});
     }
     WriteINI(files, values, strPath);
 }
