@@ -24,10 +24,6 @@ bool IsEnabled(const QStyleOption& option) {
     return option.state.testFlag(QStyle::State_Enabled);
 }
 
-bool IsDown(const QStyleOption& option) {
-    return (option.state & (QStyle::State_Sunken | QStyle::State_On)) != 0;
-}
-
 QColor GetEdge(const QStyleOption& option) {
     return option.palette.color(IsEnabled(option) ? QPalette::Dark : QPalette::Mid);
 }
@@ -63,6 +59,10 @@ void DrawArrow(QPainter& painter, const QStyleOptionComplex& control, QStyle::Su
 }
 
 } // namespace
+
+bool IsDown(const QStyleOption& option) {
+    return (option.state & (QStyle::State_Sunken | QStyle::State_On)) != 0;
+}
 
 void DrawButton(QPainter& painter, const QStyleOption& option) {
     const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&option);

@@ -18,6 +18,9 @@ class QWidget;
 /// something, and all that can be pressed answers to the pointer in the same manner.
 namespace cellora {
 
+/// Whether a button is held down or stays pressed.
+bool IsDown(const QStyleOption& option);
+
 void DrawButton(QPainter& painter, const QStyleOption& option);
 void DrawCheckBox(QPainter& painter, const QStyleOption& option);
 void DrawInputFrame(QPainter& painter, const QStyleOption& option);

@@ -68,7 +68,7 @@ void DrawToolButton(QPainter& painter, const QStyleOption& option) {
     if (!option.state.testFlag(QStyle::State_AutoRaise))
         return DrawButton(painter, option);
     QColor color = option.palette.color(QPalette::Highlight);
-    const bool blnDown = (option.state & (QStyle::State_Sunken | QStyle::State_On)) != 0;
+    const bool blnDown = IsDown(option);
     DrawTint(painter, option.rect, color, blnDown);
     color.setAlpha(blnDown ? intDownEdge : intHoverEdge);
     DrawFrame(painter, option.rect, color);
